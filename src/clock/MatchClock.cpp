@@ -1,0 +1,83 @@
+#include "clock/MatchClock.h"
+
+#include <algorithm>
+
+#include "platform/Numbers.h"
+#include "state/Program.h"
+#include "state/TimeText.h"
+
+namespace brelk {
+
+namespace {
+
+// The clock holds whole seconds in 16 bits; a reading that would leave that
+// range stays at its limit, and counting up ends the match there.
+std::int16_t clampSeconds(double s) {
+    return static_cast<std::int16_t>(std::clamp(s, -32768.0, 32767.0));
+}
+
+}  // namespace
+
+void StartStopGlobalTimer(Program& p) {
+    auto& f = p.frmMain;
+    auto& v = p.vars;
+    Control& clock = f.lblMatchTimer();
+    Control& status = f.lblMatchStatus();
+
+    f.timerMatch().setEnabled(!f.timerMatch().enabled());
+    if (f.timerMatch().enabled()) {
+        if (v.MatchState == "not started")
+            clock.setCaption(num::isTrue(v.MatchTimerReverse) ? v.MatchDuration : "00:00");
+        clock.setNumber(Prop::ForeColor, v.MatchTimerColor);
+        clock.setFlag(Prop::FontBold, true);
+        status.setCaption("");
+        status.setNumber(Prop::ForeColor, v.MatchTimerColor);
+        v.MatchState = "going";
+        for (std::int16_t i = 1; i <= v.ItemCount; ++i) {
+            if (f.lblTimer(i).caption() != "00:00") {
+                f.timerItem(i).setEnabled(true);
+                f.lblTimerGlobal(i).setVisible(true);
+            } else {
+                f.lblTimerGlobal(i).setVisible(false);
+            }
+        }
+    } else {
+        clock.setNumber(Prop::ForeColor, v.PausedMatchTimerColor);
+        clock.setFlag(Prop::FontBold, false);
+        status.setNumber(Prop::ForeColor, v.PausedMatchTimerColor);
+        status.setCaption("Paused");
+        v.MatchState = "paused";
+        for (std::int16_t i = 1; i <= v.ItemCount; ++i) f.timerItem(i).setEnabled(false);
+    }
+}
+
+void timerMatch_Timer(Program& p) {
+    auto& v = p.vars;
+    Control& clock = p.frmMain.lblMatchTimer();
+    const double reading = Secondes(clock.caption());
+    if (num::isTrue(v.MatchTimerReverse)) {
+        clock.setCaption(Minutes(clampSeconds(reading - 1)));
+        const double now = Secondes(clock.caption());
+        if (now <= 60) clock.setNumber(Prop::ForeColor, v.LastMinuteMatchTimerColor);
+        if (now <= 0) EndOfMatch(p);
+    } else {
+        const double duration = Secondes(v.MatchDuration);
+        clock.setCaption(Minutes(clampSeconds(reading + 1)));
+        const double now = Secondes(clock.caption());
+        if (now > duration - 60) clock.setNumber(Prop::ForeColor, v.LastMinuteMatchTimerColor);
+        if (now >= duration || now >= 32767) EndOfMatch(p);
+    }
+}
+
+void EndOfMatch(Program& p) {
+    auto& f = p.frmMain;
+    f.timerMatch().setEnabled(false);
+    f.lblMatchStatus().setCaption("Match Ended");
+    p.vars.MatchState = "not started";
+    for (std::int16_t i = 1; i <= p.vars.ItemCount; ++i) {
+        f.timerClick(i).setTag("4");
+        f.timerClick(i).setEnabled(true);
+    }
+}
+
+}  // namespace brelk

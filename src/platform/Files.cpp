@@ -1,0 +1,163 @@
+#include "platform/Files.h"
+
+#include <array>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include "platform/Errors.h"
+
+namespace fs = std::filesystem;
+
+namespace brelk::files {
+
+void LineReader::open(const std::string& path) {
+    if (open_) raise(err::FileAlreadyOpen);
+    std::error_code ec;
+    if (!fs::exists(path, ec) || fs::is_directory(path, ec)) raise(err::FileNotFound);
+    std::ifstream in(path, std::ios::binary);
+    if (!in) raise(err::PathNotFound, "Path/File access error");
+    bytes_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    if (in.bad()) raise(err::PathNotFound, "Path/File access error");
+    pos_ = 0;
+    open_ = true;
+    utf8_ = isValidUtf8(bytes_);
+}
+
+std::string LineReader::readLine() {
+    if (!open_) raise(err::BadFileName);
+    if (eof()) raise(err::InputPastEnd);
+    std::size_t end = bytes_.find('\r', pos_);
+    if (end == std::string::npos) end = bytes_.size();
+    std::string line = bytes_.substr(pos_, end - pos_);
+    pos_ = end;
+    if (pos_ < bytes_.size()) {
+        ++pos_;  // the CR
+        if (pos_ < bytes_.size() && bytes_[pos_] == '\n') ++pos_;
+    }
+    return utf8_ ? line : windows1252ToUtf8(line);
+}
+
+void LineReader::close() {
+    bytes_.clear();
+    bytes_.shrink_to_fit();
+    pos_ = 0;
+    open_ = false;
+}
+
+bool isValidUtf8(const std::string& bytes) {
+    const auto* s = reinterpret_cast<const unsigned char*>(bytes.data());
+    const std::size_t n = bytes.size();
+    std::size_t i = 0;
+    while (i < n) {
+        const unsigned char c = s[i];
+        if (c < 0x80) { ++i; continue; }
+        int extra;
+        std::uint32_t cp;
+        if (c >= 0xC2 && c <= 0xDF) { extra = 1; cp = c & 0x1F; }
+        else if (c >= 0xE0 && c <= 0xEF) { extra = 2; cp = c & 0x0F; }
+        else if (c >= 0xF0 && c <= 0xF4) { extra = 3; cp = c & 0x07; }
+        else return false;
+        if (i + static_cast<std::size_t>(extra) >= n) return false;
+        for (int k = 1; k <= extra; ++k) {
+            const unsigned char cc = s[i + k];
+            if ((cc & 0xC0) != 0x80) return false;
+            cp = (cp << 6) | (cc & 0x3F);
+        }
+        // No overlong forms, no surrogates, nothing past U+10FFFF.
+        if ((extra == 2 && cp < 0x800) || (extra == 3 && (cp < 0x10000 || cp > 0x10FFFF)) ||
+            (cp >= 0xD800 && cp <= 0xDFFF))
+            return false;
+        i += extra + 1;
+    }
+    return true;
+}
+
+std::string windows1252ToUtf8(const std::string& bytes) {
+    // 0x80..0x9F differ from Latin-1; 0 marks the five unassigned bytes,
+    // which are kept as the control characters of the same value.
+    static constexpr std::array<char16_t, 32> k80 = {
+        0x20AC, 0, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+        0x2039, 0x0152, 0, 0x017D, 0, 0, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013,
+        0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0, 0x017E, 0x0178};
+    std::string out;
+    out.reserve(bytes.size() + bytes.size() / 4);
+    for (unsigned char c : bytes) {
+        std::uint32_t cp = c;
+        if (c >= 0x80 && c <= 0x9F && k80[c - 0x80] != 0) cp = k80[c - 0x80];
+        if (cp < 0x80) {
+            out.push_back(static_cast<char>(cp));
+        } else if (cp < 0x800) {
+            out.push_back(static_cast<char>(0xC0 | (cp >> 6)));
+            out.push_back(static_cast<char>(0x80 | (cp & 0x3F)));
+        } else {
+            out.push_back(static_cast<char>(0xE0 | (cp >> 12)));
+            out.push_back(static_cast<char>(0x80 | ((cp >> 6) & 0x3F)));
+            out.push_back(static_cast<char>(0x80 | (cp & 0x3F)));
+        }
+    }
+    return out;
+}
+
+bool matchesPattern(const std::string& name, const std::string& pattern) {
+    // Iterative wildcard match with backtracking to the last "*".
+    std::size_t n = 0, p = 0, star = std::string::npos, mark = 0;
+    auto same = [](char a, char b) {
+        return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
+    };
+    while (n < name.size()) {
+        if (p < pattern.size() && (pattern[p] == '?' || same(pattern[p], name[n]))) { ++n; ++p; }
+        else if (p < pattern.size() && pattern[p] == '*') { star = p++; mark = n; }
+        else if (star != std::string::npos) { p = star + 1; n = ++mark; }
+        else return false;
+    }
+    while (p < pattern.size() && pattern[p] == '*') ++p;
+    return p == pattern.size();
+}
+
+std::string DirLister::first(const std::string& dir, const std::string& pattern) {
+    names_.clear();
+    pos_ = 0;
+    std::error_code ec;
+    for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
+        if (!it->is_regular_file(ec)) continue;
+        const std::string name = it->path().filename().string();
+        if (matchesPattern(name, pattern)) names_.push_back(name);
+    }
+    return next();
+}
+
+std::string DirLister::next() {
+    return pos_ < names_.size() ? names_[pos_++] : std::string();
+}
+
+std::string dirByName(const std::string& path) {
+    return exists(path) ? fileTitle(path) : std::string();
+}
+
+bool exists(const std::string& path) {
+    std::error_code ec;
+    return fs::is_regular_file(path, ec);
+}
+
+void kill(const std::string& path) {
+    std::error_code ec;
+    if (!exists(path)) raise(err::FileNotFound);
+    if (!fs::remove(path, ec) || ec) raise(err::PathNotFound, "Path/File access error");
+}
+
+bool writeAll(const std::string& path, const std::string& bytes) {
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    return static_cast<bool>(out);
+}
+
+std::string fileTitle(const std::string& path) { return fs::path(path).filename().string(); }
+
+std::string join(const std::string& dir, const std::string& name) {
+    return (fs::path(dir) / name).string();
+}
+
+}  // namespace brelk::files

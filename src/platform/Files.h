@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace brelk::files {
+
+// A text file opened for reading by lines. A line ends at CR LF or at a lone
+// CR; a lone LF is part of the line. The file is read whole when opened, and
+// decoded as UTF-8 when it is valid UTF-8, else as Windows-1252, so that any
+// byte sequence reads as text.
+class LineReader {
+public:
+    // Raises error 53 when the file is missing, 75 style errors when it
+    // cannot be read.
+    void open(const std::string& path);
+    bool isOpen() const { return open_; }
+    bool eof() const { return pos_ >= bytes_.size(); }
+    // Raises error 62 past the end.
+    std::string readLine();
+    void close();
+
+private:
+    std::string bytes_;
+    std::size_t pos_ = 0;
+    bool open_ = false;
+    bool utf8_ = true;
+};
+
+// Text of 8-bit bytes: kept when valid UTF-8, else decoded as Windows-1252.
+bool isValidUtf8(const std::string& bytes);
+std::string windows1252ToUtf8(const std::string& bytes);
+
+// Directory listing by pattern, in the order the file system gives.
+class DirLister {
+public:
+    // First name matching `pattern` ("*.set") in `dir`, or "".
+    std::string first(const std::string& dir, const std::string& pattern);
+    // The next name, or "" when there is none left.
+    std::string next();
+
+private:
+    std::vector<std::string> names_;
+    std::size_t pos_ = 0;
+};
+
+// The file's name if a file exists at `path`, else "".
+std::string dirByName(const std::string& path);
+bool exists(const std::string& path);
+// Deletes a file; raises error 53 when it does not exist.
+void kill(const std::string& path);
+// Writes bytes to a file, replacing it.
+bool writeAll(const std::string& path, const std::string& bytes);
+// The file name of a path, without its directory.
+std::string fileTitle(const std::string& path);
+// Joins a directory and a name with the platform's separator.
+std::string join(const std::string& dir, const std::string& name);
+// Whether `name` matches a pattern of "*" and "?" wildcards, ignoring case.
+bool matchesPattern(const std::string& name, const std::string& pattern);
+
+}  // namespace brelk::files

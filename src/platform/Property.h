@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace brelk {
+
+// Every property a control of the program can carry.
+enum class Prop {
+    Caption, Visible, Enabled, ForeColor, BackColor, BackStyle, BorderStyle,
+    FontName, FontSize, FontBold, FontUnderline, Alignment, UseMnemonic,
+    Left, Top, Width, Height, ToolTipText, Tag, Interval, Text, SelStart,
+    Value, ListIndex, ListCount, X1, Y1, X2, Y2, BorderColor, Picture, Stretch,
+    Default, Cancel, TabIndex,
+    // Common dialog
+    FileName, FileTitle, InitDir, DialogTitle, CancelError, Color, Flags,
+    Count_
+};
+
+constexpr int kPropCount = static_cast<int>(Prop::Count_);
+
+std::string_view propName(Prop p);
+std::optional<Prop> propFromName(std::string_view name);
+
+// Alignment values of labels.
+namespace align {
+constexpr int Left = 0;
+constexpr int Right = 1;
+constexpr int Center = 2;
+}  // namespace align
+
+}  // namespace brelk

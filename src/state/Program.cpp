@@ -1,0 +1,39 @@
+#include "state/Program.h"
+
+#include "platform/Dialogs.h"
+#include "platform/Errors.h"
+#include "platform/Numbers.h"
+#include "platform/TimerScheduler.h"
+#include "state/Handlers.h"
+
+namespace brelk {
+
+Program::Program(Services& services) : sys(services), frmMain(services.timers) {
+    frmMain.setErrorReporter([this](const RuntimeError& e) {
+        // An error no procedure caught: tell the user and go on.
+        MsgBox("Run-time error '" + std::to_string(e.number()) + "':\r\n\r\n" + e.what(),
+               msgbox::Critical, "Brelk");
+    });
+    registerRowHandlers(*this);
+    registerClockHandlers(*this);
+    registerMapHandlers(*this);
+    registerLifecycleHandlers(*this);
+}
+
+void Program::start() {
+    frmMain.setLoaded(true);
+    frmMain.raiseForm(Event::Load);
+    if (!ended_) frmMain.self().setVisible(true);
+}
+
+void Program::End() {
+    ended_ = true;
+    sys.timers.stopAll();
+    throw ProgramEnded{};
+}
+
+int Program::MsgBox(const std::string& prompt, int style, const std::string& title) {
+    return sys.dialogs.msgBox(prompt, style, title);
+}
+
+}  // namespace brelk

@@ -1,0 +1,22 @@
+#include "timers/Flash.h"
+
+#include "platform/Numbers.h"
+#include "state/Program.h"
+#include "timers/Countdown.h"
+
+namespace brelk {
+
+void timerFlash_Timer(Program& p, std::int16_t Index) {
+    auto& f = p.frmMain;
+    Control& label = f.lblTimer(Index);
+    label.setVisible(!label.visible());
+    Control& flash = f.timerFlash(Index);
+    double left = num::leadingValue(flash.tag());
+    if (p.vars.MatchState != "paused") {
+        left -= 1;
+        flash.setTag(num::plainText(left));
+    }
+    if (left <= 0) TimerInit(p, Index);
+}
+
+}  // namespace brelk
