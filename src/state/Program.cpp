@@ -32,6 +32,17 @@ void Program::End() {
     throw ProgramEnded{};
 }
 
+bool Program::guarded(const std::function<void()>& action) {
+    if (ended_) return false;
+    try {
+        action();
+    } catch (const ProgramEnded&) {
+        if (endListener_) endListener_();
+        return false;
+    }
+    return !ended_;
+}
+
 int Program::MsgBox(const std::string& prompt, int style, const std::string& title) {
     return sys.dialogs.msgBox(prompt, style, title);
 }

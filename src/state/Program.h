@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/Platform.h"
@@ -29,8 +30,15 @@ public:
 
     int MsgBox(const std::string& prompt, int style, const std::string& title);
 
+    // Runs one piece of input (a mouse event, a tick, a command) and absorbs
+    // the end of the program, which is then reported to the end listener.
+    // Returns false when the program has ended.
+    bool guarded(const std::function<void()>& action);
+    void setEndListener(std::function<void()> listener) { endListener_ = std::move(listener); }
+
 private:
     bool ended_ = false;
+    std::function<void()> endListener_;
 };
 
 }  // namespace brelk
