@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/Errors.h"
 #include "platform/Numbers.h"
 #include "state/Program.h"
 #include "state/TimeText.h"
@@ -18,6 +19,17 @@ std::int16_t clampSeconds(double s) {
 
 }  // namespace
 
+std::string matchDurationText(const ModVars& v) {
+    try {
+        Secondes(v.MatchDuration);
+        return v.MatchDuration;
+    } catch (const RuntimeError&) {
+        return "20:00";
+    }
+}
+
+double matchDurationSeconds(const ModVars& v) { return Secondes(matchDurationText(v)); }
+
 void StartStopGlobalTimer(Program& p) {
     auto& f = p.frmMain;
     auto& v = p.vars;
@@ -27,7 +39,7 @@ void StartStopGlobalTimer(Program& p) {
     f.timerMatch().setEnabled(!f.timerMatch().enabled());
     if (f.timerMatch().enabled()) {
         if (v.MatchState == "not started")
-            clock.setCaption(num::isTrue(v.MatchTimerReverse) ? v.MatchDuration : "00:00");
+            clock.setCaption(num::isTrue(v.MatchTimerReverse) ? matchDurationText(v) : "00:00");
         clock.setNumber(Prop::ForeColor, v.MatchTimerColor);
         clock.setFlag(Prop::FontBold, true);
         status.setCaption("");
@@ -56,12 +68,13 @@ void timerMatch_Timer(Program& p) {
     Control& clock = p.frmMain.lblMatchTimer();
     const double reading = Secondes(clock.caption());
     if (num::isTrue(v.MatchTimerReverse)) {
-        clock.setCaption(Minutes(clampSeconds(reading - 1)));
+        // Counting down the reading stops at zero, also for a match of no length.
+        clock.setCaption(Minutes(clampSeconds(std::max(reading - 1, 0.0))));
         const double now = Secondes(clock.caption());
         if (now <= 60) clock.setNumber(Prop::ForeColor, v.LastMinuteMatchTimerColor);
         if (now <= 0) EndOfMatch(p);
     } else {
-        const double duration = Secondes(v.MatchDuration);
+        const double duration = matchDurationSeconds(v);
         clock.setCaption(Minutes(clampSeconds(reading + 1)));
         const double now = Secondes(clock.caption());
         if (now > duration - 60) clock.setNumber(Prop::ForeColor, v.LastMinuteMatchTimerColor);

@@ -1,8 +1,17 @@
 #pragma once
 
+#include <string>
+
 namespace brelk {
 
 class Program;
+struct ModVars;
+
+// The match length as the clock uses it: MatchDuration when it is a time
+// text, else the standard 20 minutes, so a hand-edited profile cannot stop
+// the clock.
+std::string matchDurationText(const ModVars& v);
+double matchDurationSeconds(const ModVars& v);
 
 // The hand-driven match clock. Its reading exists only as the caption of
 // lblMatchTimer; timerMatch running is the gate for timing items.

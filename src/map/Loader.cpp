@@ -1,0 +1,103 @@
+#include "map/Loader.h"
+
+#include <cstdint>
+#include <string>
+
+#include "clock/MatchClock.h"
+#include "map/Layout.h"
+#include "platform/Dialogs.h"
+#include "platform/Errors.h"
+#include "platform/Files.h"
+#include "platform/Numbers.h"
+#include "settings/Appearance.h"
+#include "state/Program.h"
+
+namespace brelk {
+
+namespace {
+
+std::string withoutTxt(std::string name) {
+    for (std::size_t pos; (pos = name.find(".txt")) != std::string::npos;) name.erase(pos, 4);
+    return name;
+}
+
+// The line as the error message shows it: a line of a binary or runaway file
+// is cut so the box stays readable.
+std::string shownLine(const std::string& line) {
+    constexpr int kMaxShown = 500;
+    if (num::charCount(line) <= kMaxShown) return line;
+    std::size_t bytes = 0;
+    for (int chars = 0; bytes < line.size() && chars < kMaxShown; ++chars) {
+        ++bytes;
+        while (bytes < line.size() && (static_cast<unsigned char>(line[bytes]) & 0xC0) == 0x80) ++bytes;
+    }
+    return line.substr(0, bytes) + "...";
+}
+
+}  // namespace
+
+void mnuLoad_Click(Program& p) {
+    auto& f = p.frmMain;
+    Control& dialog = f.cdl1();
+    dialog.set(Prop::FileName, "*.txt");
+    dialog.set(Prop::InitDir, p.sys.app.path);
+    dialog.setFlag(Prop::CancelError, true);
+
+    auto chosen = p.sys.dialogs.openFile(
+        {dialog.get(Prop::DialogTitle).text(), p.sys.app.path, dialog.get(Prop::FileName).text()});
+    if (!chosen) return;  // cancelled: nothing changes
+    dialog.set(Prop::FileName, chosen->fileName);
+    dialog.set(Prop::FileTitle, chosen->fileTitle);
+
+    std::int16_t LineNumber = 0;
+    std::string line;
+    files::LineReader file;
+    try {
+        f.lblMapName(0).setCaption(withoutTxt(chosen->fileTitle));
+        f.lblMapName(1).setCaption(f.lblMapName(0).caption());
+        file.open(chosen->fileName);  // before FormInit: a file that can't be opened leaves the rows
+        FormInit(p);
+        while (!file.eof()) {
+            line = file.readLine();
+            LineNumber = num::add16(LineNumber, 1);
+            if (line.empty() || line[0] == '#') continue;
+            if (line[0] == ':') AddCategory(p, line.substr(1));
+            else AddItem(p, line);
+        }
+        file.close();
+    } catch (const RuntimeError&) {
+        p.MsgBox("An error occured when reading file (wrong file format ?)\r\nFailed while reading line " +
+                     num::numberText(LineNumber) + " :\r\n" + shownLine(line),
+                 msgbox::Critical, "WTF ?!");
+        file.close();
+        return;
+    }
+
+    ItemBackground(p, num::isTrue(p.vars.ListColor));
+    f.self().setNumber(Prop::Height, f.self().number(Prop::Height) + p.vars.NextRowTop - 200);
+    AjusteLargeur(p);
+    ChangeCategoryColor(p);
+}
+
+void FormInit(Program& p) {
+    auto& f = p.frmMain;
+    auto& v = p.vars;
+    f.self().setNumber(Prop::Width, 2050);
+    f.self().setNumber(Prop::Height, 700);
+    for (std::int16_t i = 1; i <= v.ItemCount; ++i)
+        for (const char* name : {"lblFond", "lblItem", "lblTimer", "ico", "timerItem", "timerFlash", "timerClick",
+                                 "lblTimerGlobal"})
+            f.Unload(name, i);
+    for (std::int16_t i = 1; i <= v.CategoryCount; ++i) {
+        f.Unload("lblCat", i);
+        f.Unload("lineCat", i);
+    }
+    f.timerMatch().setEnabled(false);
+    f.lblMatchTimer().setCaption(matchDurationText(v));
+    v.MatchState = "not started";
+    v.CategoryCount = 0;
+    v.ItemCount = 0;
+    v.NextRowTop = 600;
+}
+
+}  // namespace brelk

@@ -1,0 +1,196 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/Errors.h"
+#include "platform/Form.h"
+#include "platform/TimerScheduler.h"
+
+using namespace brelk;
+
+namespace {
+
+struct Model : ::testing::Test {
+    TimerScheduler clock;
+    Form form{"frmTest", clock};
+    std::vector<std::string> log;
+
+    void record(const std::string& name, Event e) {
+        form.on(name, e, [this, name, e](const EventArgs& a) {
+            log.push_back(name + "(" + std::to_string(a.index) + ")." + std::string(eventName(e)) + ":" +
+                          std::to_string(a.button));
+        });
+    }
+};
+
+TEST_F(Model, PropertiesReadBackExactlyWhatWasWritten) {
+    Control& l = form.add(ControlKind::Label, "lbl");
+    l.setCaption("");
+    EXPECT_EQ(l.caption(), "");
+    l.setCaption("  01:44 ");
+    EXPECT_EQ(l.caption(), "  01:44 ");
+    l.setVisible(false);
+    EXPECT_EQ(l.get(Prop::Visible).number(), 0);
+    l.setVisible(true);
+    EXPECT_EQ(l.get(Prop::Visible).number(), -1);
+    l.setNumber(Prop::ForeColor, 0x00FF00FF);
+    EXPECT_EQ(l.number(Prop::ForeColor), 0x00FF00FF);
+    l.setTag("3");
+    EXPECT_EQ(l.tag(), "3");
+    EXPECT_EQ(l.get(Prop::Tag).number(), 3);
+}
+
+TEST_F(Model, AKindOnlyCarriesItsOwnProperties) {
+    Control& t = form.add(ControlKind::Timer, "tmr");
+    EXPECT_THROW(t.get(Prop::Caption), RuntimeError);
+    EXPECT_THROW(t.set(Prop::Visible, Value(0)), RuntimeError);
+    Control& line = form.add(ControlKind::Line, "ln");
+    EXPECT_NO_THROW(line.setNumber(Prop::X2, 1800));
+    EXPECT_THROW(line.setCaption("x"), RuntimeError);
+}
+
+TEST_F(Model, LoadCopiesMemberZeroHiddenAndUnloadFreesTheIndex) {
+    Control& proto = form.addMember(ControlKind::Label, "lblItem", 0);
+    proto.setCaption("Upper");
+    proto.setNumber(Prop::FontSize, 8.25);
+    proto.setFlag(Prop::FontBold, true);
+    proto.setTag("seed");
+    Control& one = form.Load("lblItem", 1);
+    EXPECT_EQ(one.caption(), "Upper");
+    EXPECT_EQ(one.number(Prop::FontSize), 8.25);
+    EXPECT_TRUE(one.flag(Prop::FontBold));
+    EXPECT_EQ(one.tag(), "seed");
+    EXPECT_FALSE(one.visible());
+    EXPECT_TRUE(proto.visible());
+    EXPECT_EQ(one.index(), 1);
+
+    EXPECT_THROW(form.Load("lblItem", 1), RuntimeError);
+    form.Unload("lblItem", 1);
+    EXPECT_EQ(form.find("lblItem", 1), nullptr);
+    try {
+        form.at("lblItem", 1);
+        FAIL() << "an unloaded member must not be reachable";
+    } catch (const RuntimeError& e) {
+        EXPECT_EQ(e.number(), err::ControlNotLoaded);
+    }
+    EXPECT_NO_THROW(form.Load("lblItem", 1));
+}
+
+TEST_F(Model, ALoadedTimerCopiesIntervalAndTagButNeverStartsRunning) {
+    Control& proto = form.addMember(ControlKind::Timer, "timerFlash", 0);
+    proto.setNumber(Prop::Interval, 333);
+    proto.setTag("12");
+    Control& t = form.Load("timerFlash", 4);
+    EXPECT_EQ(t.number(Prop::Interval), 333);
+    EXPECT_EQ(t.tag(), "12");
+    EXPECT_FALSE(t.enabled());
+    EXPECT_FALSE(clock.isRunning(t));
+}
+
+TEST_F(Model, EventsReachTheHandlerWithTheMembersIndex) {
+    form.addMember(ControlKind::Label, "lblFond", 0);
+    form.Load("lblFond", 7);
+    record("lblFond", Event::MouseDown);
+    form.mouseDown(form.at("lblFond", 7), 2);
+    EXPECT_EQ(log, (std::vector<std::string>{"lblFond(7).MouseDown:2"}));
+}
+
+TEST_F(Model, TheReleaseGoesToTheControlThatGotThePress) {
+    form.addMember(ControlKind::Label, "lblItem", 0);
+    form.Load("lblItem", 1);
+    form.Load("lblItem", 2);
+    record("lblItem", Event::MouseUp);
+    form.mouseDown(form.at("lblItem", 1), 1);
+    form.mouseUp(form.at("lblItem", 2), 1);
+    // Once released, the next release goes where it happens.
+    form.mouseUp(form.at("lblItem", 2), 4);
+    EXPECT_EQ(log, (std::vector<std::string>{"lblItem(1).MouseUp:1", "lblItem(2).MouseUp:4"}));
+}
+
+TEST_F(Model, ARightClickWhileTheLeftButtonIsHeldStaysWithThePressedControl) {
+    form.addMember(ControlKind::Label, "lblTimer", 0);
+    form.Load("lblTimer", 1);
+    form.Load("lblTimer", 2);
+    record("lblTimer", Event::MouseUp);
+    form.mouseDown(form.at("lblTimer", 1), 1);
+    form.mouseDown(form.at("lblTimer", 2), 2);
+    form.mouseUp(form.at("lblTimer", 2), 2);
+    form.mouseUp(form.at("lblTimer", 2), 1);
+    EXPECT_EQ(log, (std::vector<std::string>{"lblTimer(1).MouseUp:2", "lblTimer(1).MouseUp:1"}));
+}
+
+TEST_F(Model, AnErrorNoProcedureCaughtIsReportedAndTheProgramGoesOn) {
+    Control& b = form.add(ControlKind::CommandButton, "cmd");
+    std::vector<int> reported;
+    form.setErrorReporter([&](const RuntimeError& e) { reported.push_back(e.number()); });
+    form.on("cmd", Event::Click, [](const EventArgs&) { brelk::raise(err::Overflow); });
+    form.click(b);
+    form.click(b);
+    EXPECT_EQ(reported, (std::vector<int>{err::Overflow, err::Overflow}));
+}
+
+TEST_F(Model, OptionButtonsOfOneContainerExcludeEachOtherAndClickOnlyOnAChange) {
+    Control& boxA = form.add(ControlKind::PictureBox, "picA");
+    Control& boxB = form.add(ControlKind::PictureBox, "picB");
+    Control& yesA = form.add(ControlKind::OptionButton, "optYesA", &boxA);
+    Control& noA = form.add(ControlKind::OptionButton, "optNoA", &boxA);
+    Control& yesB = form.add(ControlKind::OptionButton, "optYesB", &boxB);
+    record("optYesA", Event::Click);
+    record("optNoA", Event::Click);
+    yesB.setFlag(Prop::Value, true);
+    yesA.setFlag(Prop::Value, true);
+    yesA.setFlag(Prop::Value, true);  // no change, no Click
+    form.click(noA);
+    EXPECT_FALSE(yesA.flag(Prop::Value));
+    EXPECT_TRUE(noA.flag(Prop::Value));
+    EXPECT_TRUE(yesB.flag(Prop::Value));  // another container is left alone
+    EXPECT_EQ(log, (std::vector<std::string>{"optYesA(0).Click:0", "optNoA(0).Click:0"}));
+}
+
+TEST_F(Model, DisabledButtonsTakeNoClicksAndEscPressesTheCancelButton) {
+    Control& ok = form.add(ControlKind::CommandButton, "cmdOK");
+    Control& close = form.add(ControlKind::CommandButton, "cmdClose");
+    close.setFlag(Prop::Cancel, true);
+    record("cmdOK", Event::Click);
+    record("cmdClose", Event::Click);
+    ok.setEnabled(false);
+    form.click(ok);
+    EXPECT_TRUE(form.pressCancel());
+    EXPECT_FALSE(form.pressDefault());
+    EXPECT_EQ(log, (std::vector<std::string>{"cmdClose(0).Click:0"}));
+}
+
+TEST_F(Model, FocusMovesWithLostFocusBeforeGotFocus) {
+    Control& a = form.add(ControlKind::TextBox, "txtA");
+    Control& b = form.add(ControlKind::TextBox, "txtB");
+    record("txtA", Event::LostFocus);
+    record("txtB", Event::GotFocus);
+    form.setFocus(&a);
+    form.setFocus(&b);
+    EXPECT_EQ(form.focus(), &b);
+    EXPECT_EQ(log, (std::vector<std::string>{"txtA(0).LostFocus:0", "txtB(0).GotFocus:0"}));
+}
+
+TEST_F(Model, SendingToTheBackPutsAControlBehindEverySibling) {
+    Control& first = form.add(ControlKind::Label, "a");
+    Control& later = form.add(ControlKind::Label, "b");
+    EXPECT_LT(first.zOrder(), later.zOrder());
+    later.ZOrder(1);
+    EXPECT_LT(later.zOrder(), first.zOrder());
+}
+
+TEST_F(Model, AListKeepsItsEntriesAndSelection) {
+    Control& list = form.add(ControlKind::ComboBox, "lst");
+    list.AddItem("a.set");
+    list.AddItem("b.set");
+    list.setNumber(Prop::ListIndex, 1);
+    EXPECT_EQ(list.number(Prop::ListCount), 2);
+    list.RemoveItem(0);
+    EXPECT_EQ(list.number(Prop::ListIndex), 0);
+    EXPECT_EQ(list.listItems().front(), "b.set");
+    list.setNumber(Prop::ListIndex, 5);
+    EXPECT_EQ(list.number(Prop::ListIndex), -1);
+}
+
+}  // namespace

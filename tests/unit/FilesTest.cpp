@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/Errors.h"
+#include "platform/Files.h"
+
+using namespace brelk;
+namespace fs = std::filesystem;
+
+namespace {
+
+struct TempDir : ::testing::Test {
+    std::string dir;
+    void SetUp() override {
+        std::string templ = (fs::temp_directory_path() / "brelk-files-XXXXXX").string();
+        dir = mkdtemp(templ.data());
+    }
+    void TearDown() override { fs::remove_all(dir); }
+    std::string file(const std::string& name, const std::string& bytes) {
+        const std::string path = files::join(dir, name);
+        files::writeAll(path, bytes);
+        return path;
+    }
+    std::vector<std::string> lines(const std::string& bytes) {
+        files::LineReader r;
+        r.open(file("f.txt", bytes));
+        std::vector<std::string> out;
+        while (!r.eof()) out.push_back(r.readLine());
+        r.close();
+        return out;
+    }
+};
+
+using Lines = std::vector<std::string>;
+
+TEST_F(TempDir, LinesEndAtCrLfOrALoneCrButNeverAtALoneLf) {
+    EXPECT_EQ(lines("a\r\nb\r\n"), (Lines{"a", "b"}));
+    EXPECT_EQ(lines("a\rb\r"), (Lines{"a", "b"}));
+    EXPECT_EQ(lines("a\nb\nc"), (Lines{"a\nb\nc"}));
+    EXPECT_EQ(lines("last line without end"), (Lines{"last line without end"}));
+    EXPECT_EQ(lines("a\r\n\r\nb"), (Lines{"a", "", "b"}));
+    EXPECT_EQ(lines(""), (Lines{}));
+    EXPECT_EQ(lines("\r\n"), (Lines{""}));
+}
+
+TEST_F(TempDir, ValidUtf8IsKeptAndOtherBytesReadAsWindows1252) {
+    EXPECT_EQ(lines("Caf\xC3\xA9\r\n"), (Lines{"Caf\xC3\xA9"}));
+    EXPECT_EQ(lines("Caf\xE9 \x80\r\n"), (Lines{"Caf\xC3\xA9 \xE2\x82\xAC"}));
+    EXPECT_EQ(lines(std::string("nul\0byte", 8)), (Lines{std::string("nul\0byte", 8)}));
+}
+
+TEST(Utf8, OverlongSurrogateAndTruncatedSequencesAreNotUtf8) {
+    EXPECT_TRUE(files::isValidUtf8("plain \xE2\x82\xAC \xF0\x9F\x98\x80"));
+    EXPECT_FALSE(files::isValidUtf8("\xC0\xAF"));          // overlong "/"
+    EXPECT_FALSE(files::isValidUtf8("\xED\xA0\x80"));      // a surrogate
+    EXPECT_FALSE(files::isValidUtf8("\xE2\x82"));          // cut short
+    EXPECT_FALSE(files::isValidUtf8("\xF4\x90\x80\x80"));  // past U+10FFFF
+}
+
+TEST_F(TempDir, AMissingFileIsErrorFiftyThreeAndReadingPastTheEndIsSixtyTwo) {
+    files::LineReader r;
+    try {
+        r.open(files::join(dir, "none.txt"));
+        FAIL();
+    } catch (const RuntimeError& e) {
+        EXPECT_EQ(e.number(), err::FileNotFound);
+    }
+    r.open(file("one.txt", "x"));
+    r.readLine();
+    try {
+        r.readLine();
+        FAIL();
+    } catch (const RuntimeError& e) {
+        EXPECT_EQ(e.number(), err::InputPastEnd);
+    }
+}
+
+TEST_F(TempDir, DirListsMatchingFilesOnceThenGivesEmptyText) {
+    file("red.set", "");
+    file("Blue.SET", "");
+    file("map.txt", "");
+    fs::create_directory(files::join(dir, "folder.set"));
+    files::DirLister lister;
+    std::set<std::string> found;
+    for (std::string n = lister.first(dir, "*.set"); !n.empty(); n = lister.next()) found.insert(n);
+    EXPECT_EQ(found, (std::set<std::string>{"red.set", "Blue.SET"}));
+    EXPECT_EQ(lister.next(), "");
+    EXPECT_EQ(files::dirByName(files::join(dir, "red.set")), "red.set");
+    EXPECT_EQ(files::dirByName(files::join(dir, "green.set")), "");
+}
+
+TEST_F(TempDir, DeleteRemovesAFileAndFailsOnAMissingOne) {
+    const std::string path = file("old.set", "x");
+    files::kill(path);
+    EXPECT_FALSE(files::exists(path));
+    EXPECT_THROW(files::kill(path), RuntimeError);
+}
+
+TEST(Wildcards, MatchIgnoringCase) {
+    EXPECT_TRUE(files::matchesPattern("Aerowalk.TXT", "*.txt"));
+    EXPECT_TRUE(files::matchesPattern("a.txt.txt", "*.txt"));
+    EXPECT_FALSE(files::matchesPattern("a.txt.old", "*.txt"));
+    EXPECT_TRUE(files::matchesPattern("ab", "a?"));
+    EXPECT_FALSE(files::matchesPattern("abc", "a?"));
+}
+
+}  // namespace
