@@ -74,7 +74,7 @@ void DeclencheTimer(Program& p, std::int16_t item) {
     }
     if (!isCompleteRow(p, item)) return;
 
-    if (num::strictValue(f.timerClick(item).tag()) == 2) {
+    if (num::leadingValue(f.timerClick(item).tag()) == 2) {
         if (f.lblTimer(item).caption() != kIdle) f.timerItem(item).setEnabled(true);
         return;
     }
