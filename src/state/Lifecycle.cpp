@@ -1,8 +1,96 @@
+#include "state/Lifecycle.h"
+
+#include <algorithm>
+#include <string>
+
+#include "map/Loader.h"
+#include "platform/Dialogs.h"
+#include "platform/Events.h"
+#include "platform/Numbers.h"
+#include "settings/Appearance.h"
+#include "settings/Settings.h"
 #include "state/Handlers.h"
 #include "state/Program.h"
 
 namespace brelk {
 
-void registerLifecycleHandlers(Program&) {}
+namespace {
+
+std::int32_t readPosition(Program& p, const char* key) {
+    const double v = num::roundHalfEven(num::leadingValue(ReadIniValue(p, "Form", key, "")));
+    return static_cast<std::int32_t>(std::clamp(v, -2147483648.0, 2147483647.0));
+}
+
+// A usage counter stops at its largest value instead of failing.
+std::int16_t countOne(std::int16_t n) { return n < 32767 ? static_cast<std::int16_t>(n + 1) : n; }
+
+void storeTimedItems(Program& p, const char* key) {
+    std::string text = num::numberText(p.vars.TimedItems);
+    WriteIniValue(p, "Stats", key, text, "");
+}
+
+}  // namespace
+
+void Form_Load(Program& p) {
+    auto& v = p.vars;
+    // A first start has no profile file yet: it begins with the built-in one.
+    const bool firstStart = !profileExists(p);
+    if (firstStart) writeBuiltInProfile(p);
+
+    v.PosX = readPosition(p, "PosX");
+    v.PosY = readPosition(p, "PosY");
+    // A missing or unreadable flag or counter takes its built-in value.
+    v.OnTop = static_cast<std::int16_t>(readFlag(ReadIniValue(p, "Form", "OnTop", "")).value_or(num::True));
+    p.frmMain.self().setNumber(Prop::Left, v.PosX);
+    p.frmMain.self().setNumber(Prop::Top, v.PosY);
+    AlwaysOnTop(p, v.OnTop);
+
+    v.Launched = countOne(static_cast<std::int16_t>(readInteger(ReadIniValue(p, "Stats", "Launched", "")).value_or(0)));
+    v.TimedItems = static_cast<std::int16_t>(readInteger(ReadIniValue(p, "Stats", "TimedItems", "")).value_or(0));
+    std::string launched = num::numberText(v.Launched);
+    WriteIniValue(p, "Stats", "Launched", launched, "");
+
+    // Where the profile file cannot be created, a first start still runs on
+    // the built-in settings, without a message.
+    if (firstStart && !profileExists(p)) applyBuiltInSettings(p);
+    else ReadIniFile(p, "");
+    ChangeTimerColor(p);
+    ChangeFormColor(p);
+    ChangeListColor(p);
+    ChangeCategoryColor(p);
+    ChangeMapNameColor(p);
+    ChangeGlobalTimerColor(p);
+    FormInit(p);
+}
+
+void Form_Unload(Program& p) {
+    WriteIniFile(p, "");
+    storeTimedItems(p, "timeditems");
+    p.End();
+}
+
+void mnuExit_Click(Program& p) {
+    WriteIniFile(p, "");
+    // The lifetime count of timed items is kept whichever way the program ends.
+    storeTimedItems(p, "timeditems");
+    p.End();
+}
+
+void cmdPopup_Click(Program& p) {
+    if (Control* chosen = p.sys.dialogs.popupMenu(p.frmMain, p.frmMain.mnuCoach()))
+        p.frmMain.raise(*chosen, Event::Click);
+}
+
+void AlwaysOnTop(Program& p, int Top) { SetWindowTopmost(p, Top == num::True ? 1 : 0); }
+
+void SetWindowTopmost(Program& p, int topmost) { p.sys.windows.setTopmost(p.frmMain, topmost != 0); }
+
+void registerLifecycleHandlers(Program& p) {
+    auto& f = p.frmMain;
+    f.on("frmMain", Event::Load, [&p](const EventArgs&) { Form_Load(p); });
+    f.on("frmMain", Event::Unload, [&p](const EventArgs&) { Form_Unload(p); });
+    f.on("mnuExit", Event::Click, [&p](const EventArgs&) { mnuExit_Click(p); });
+    f.on("cmdPopup", Event::Click, [&p](const EventArgs&) { cmdPopup_Click(p); });
+}
 
 }  // namespace brelk
