@@ -1,0 +1,291 @@
+#include "settings/IniFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+namespace brelk::ini {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A value reads back as at most this many bytes, as from a buffer of 255 with
+// room for the terminating NUL.
+constexpr std::size_t kMaxValueLength = 254;
+constexpr std::string_view kLineEnd = "\r\n";
+// Name attempts for a temporary file before giving up.
+constexpr int kTempAttempts = 100;
+
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
+std::string_view trimBlanks(std::string_view s) {
+    while (!s.empty() && isBlank(s.front())) s.remove_prefix(1);
+    while (!s.empty() && isBlank(s.back())) s.remove_suffix(1);
+    return s;
+}
+
+char asciiLower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+
+bool sameName(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        if (asciiLower(a[i]) != asciiLower(b[i])) return false;
+    return true;
+}
+
+bool hasLineBreak(std::string_view s) { return s.find_first_of("\r\n") != std::string_view::npos; }
+
+// One line of the file: its text is [begin, end), its line end [end, next).
+struct Line {
+    std::size_t begin;
+    std::size_t end;
+    std::size_t next;
+};
+
+// Lines end at CR LF, LF or a lone CR; the last line may have no end.
+std::vector<Line> splitLines(std::string_view text) {
+    std::vector<Line> lines;
+    std::size_t begin = 0;
+    while (begin < text.size()) {
+        std::size_t end = text.find_first_of("\r\n", begin);
+        if (end == std::string_view::npos) {
+            lines.push_back({begin, text.size(), text.size()});
+            break;
+        }
+        std::size_t next = end + 1;
+        if (text[end] == '\r' && next < text.size() && text[next] == '\n') ++next;
+        lines.push_back({begin, end, next});
+        begin = next;
+    }
+    return lines;
+}
+
+enum class LineKind { Other, Section, Key };
+
+struct Parsed {
+    LineKind kind = LineKind::Other;
+    std::string_view name;   // section or key name, trimmed
+    std::string_view value;  // key value, trimmed
+};
+
+// What a line is. Whether a key line lies within a section is the caller's
+// concern; comments, blank lines and anything else are Other.
+Parsed parseLine(std::string_view line) {
+    const std::string_view t = trimBlanks(line);
+    if (t.empty() || t.front() == ';') return {};
+    if (t.size() >= 2 && t.front() == '[' && t.back() == ']')
+        return {LineKind::Section, trimBlanks(t.substr(1, t.size() - 2)), {}};
+    const std::size_t eq = t.find('=');
+    if (eq == std::string_view::npos) return {};
+    const std::string_view name = trimBlanks(t.substr(0, eq));
+    if (name.empty()) return {};
+    return {LineKind::Key, name, trimBlanks(t.substr(eq + 1))};
+}
+
+// Where a key stands within the first section of its name.
+struct Location {
+    std::optional<std::size_t> header;   // the section's header line
+    std::optional<std::size_t> key;      // its first line of the key
+    std::optional<std::size_t> lastKey;  // its last key line of any name
+};
+
+Location locate(std::string_view text, const std::vector<Line>& lines, std::string_view section,
+                std::string_view key) {
+    Location at;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const Parsed p = parseLine(text.substr(lines[i].begin, lines[i].end - lines[i].begin));
+        if (p.kind == LineKind::Section) {
+            if (at.header) break;  // the first matching section has ended
+            if (sameName(p.name, section)) at.header = i;
+        } else if (p.kind == LineKind::Key && at.header) {
+            at.lastKey = i;
+            if (!at.key && sameName(p.name, key)) at.key = i;
+        }
+    }
+    return at;
+}
+
+std::string_view lineText(std::string_view text, const Line& line) {
+    return text.substr(line.begin, line.end - line.begin);
+}
+
+// The whole of a regular file; false when it cannot be opened or read.
+// Opening without blocking keeps a named pipe in its place from hanging us.
+bool readWhole(const std::string& path, std::string& out) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) return false;
+    struct stat st {};
+    bool ok = ::fstat(fd, &st) == 0 && S_ISREG(st.st_mode);
+    out.clear();
+    char buf[65536];
+    while (ok) {
+        const ssize_t n = ::read(fd, buf, sizeof buf);
+        if (n > 0) {
+            out.append(buf, static_cast<std::size_t>(n));
+        } else if (n == 0) {
+            break;
+        } else if (errno != EINTR) {
+            ok = false;
+        }
+    }
+    ::close(fd);
+    return ok;
+}
+
+bool writeWhole(int fd, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t n = ::write(fd, bytes.data(), bytes.size());
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(n));
+    }
+    return true;
+}
+
+// The superuser passes every access() check, so a file or directory with no
+// write bit at all counts as read-only for everyone.
+bool writable(const std::string& path, const struct stat& st) {
+    if ((st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0) return false;
+    return ::access(path.c_str(), W_OK) == 0;
+}
+
+// The text with the key set to the value, every other byte kept.
+std::string withValue(std::string_view text, std::string_view section, std::string_view key,
+                      std::string_view value) {
+    const std::vector<Line> lines = splitLines(text);
+    const Location at = locate(text, lines, section, key);
+    std::string out;
+    out.reserve(text.size() + section.size() + key.size() + value.size() + 8);
+
+    if (at.key) {
+        // In place, in the file's spelling of the key, keeping the line's end.
+        const Line& line = lines[*at.key];
+        const std::string_view spelling = parseLine(lineText(text, line)).name;
+        out.append(text.substr(0, line.begin));
+        out.append(spelling).append("=").append(value);
+        out.append(text.substr(line.end));
+    } else if (at.header) {
+        // After the section's last key, or right below its header.
+        const Line& anchor = lines[at.lastKey.value_or(*at.header)];
+        out.append(text.substr(0, anchor.next));
+        if (anchor.next == anchor.end) out.append(kLineEnd);  // the file's last line had no end
+        out.append(key).append("=").append(value).append(kLineEnd);
+        out.append(text.substr(anchor.next));
+    } else {
+        out.append(text);
+        if (!text.empty() && text.back() != '\n' && text.back() != '\r') out.append(kLineEnd);
+        out.append("[").append(section).append("]").append(kLineEnd);
+        out.append(key).append("=").append(value).append(kLineEnd);
+    }
+    return out;
+}
+
+// A name for a temporary file beside `name`: the process and an attempt
+// number. O_EXCL makes it ours alone, even against another thread or a file
+// left behind by a writer that was killed.
+std::string tempName(const fs::path& dir, const std::string& name, int attempt) {
+    return (dir / ("." + name + ".tmp-" + std::to_string(::getpid()) + "-" + std::to_string(attempt))).string();
+}
+
+}  // namespace
+
+std::string profilePath(const std::string& dir, const std::string& exeName, const std::string& iniFile) {
+    if (iniFile.empty()) return dir + "/" + exeName + ".ini";
+    return dir + "/" + std::string(trimBlanks(iniFile));
+}
+
+std::string readValue(const std::string& path, std::string_view section, std::string_view key) {
+    if (key.empty()) return {};
+    std::string text;
+    if (!readWhole(path, text)) return {};
+    const std::vector<Line> lines = splitLines(text);
+    const Location at = locate(text, lines, section, key);
+    if (!at.key) return {};
+    std::string_view value = parseLine(lineText(text, lines[*at.key])).value;
+    if (value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.back() == value.front())
+        value = value.substr(1, value.size() - 2);
+    return std::string(value.substr(0, kMaxValueLength));
+}
+
+bool writeValue(const std::string& path, std::string_view section, std::string_view key, std::string_view value) {
+    // A line break would split the line and damage the file's structure.
+    if (key.empty() || hasLineBreak(section) || hasLineBreak(key) || hasLineBreak(value)) return false;
+    value = trimBlanks(value);
+
+    std::string target = path;
+    std::string old;
+    struct stat st {};
+    if (::stat(path.c_str(), &st) == 0) {
+        if (!S_ISREG(st.st_mode) || !writable(path, st)) return false;
+        if (!readWhole(path, old)) return false;
+        // Write through a link to the file it names, so the link stays a link.
+        std::error_code ec;
+        if (fs::is_symlink(path, ec)) {
+            const fs::path real = fs::canonical(path, ec);
+            if (ec) return false;
+            target = real.string();
+        }
+    } else if (errno != ENOENT) {
+        return false;
+    }
+    return replaceFile(target, withValue(old, section, key, value));
+}
+
+bool replaceFile(const std::string& path, std::string_view bytes) {
+    const fs::path p(path);
+    const std::string name = p.filename().string();
+    if (name.empty()) return false;
+    const fs::path dir = p.has_parent_path() ? p.parent_path() : fs::path(".");
+
+    // Never create a directory, and leave a read-only one alone.
+    struct stat dirSt {};
+    if (::stat(dir.c_str(), &dirSt) != 0 || !S_ISDIR(dirSt.st_mode) || !writable(dir.string(), dirSt)) return false;
+
+    struct stat oldSt {};
+    const bool existed = ::stat(path.c_str(), &oldSt) == 0;
+
+    std::string temp;
+    int fd = -1;
+    for (int attempt = 0; attempt < kTempAttempts && fd < 0; ++attempt) {
+        temp = tempName(dir, name, attempt);
+        fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (fd < 0 && errno != EEXIST) return false;
+    }
+    if (fd < 0) return false;
+
+    bool ok = true;
+    if (existed) {
+        // Keep the old file's owner where we may, then its permission bits
+        // (in this order, as a change of owner can clear set-id bits).
+        if ((oldSt.st_uid != ::geteuid() || oldSt.st_gid != ::getegid()) &&
+            ::fchown(fd, oldSt.st_uid, oldSt.st_gid) != 0) {
+            // Only the superuser may give a file away; ours then it stays.
+        }
+        ok = ::fchmod(fd, oldSt.st_mode & 07777) == 0;
+    }
+    ok = ok && writeWhole(fd, bytes) && ::fsync(fd) == 0;
+    ok = (::close(fd) == 0) && ok;
+    ok = ok && ::rename(temp.c_str(), path.c_str()) == 0;
+    if (!ok) {
+        ::unlink(temp.c_str());
+        return false;
+    }
+    // Make the rename itself durable; the new file is in place either way.
+    const int dirFd = ::open(dir.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (dirFd >= 0) {
+        ::fsync(dirFd);
+        ::close(dirFd);
+    }
+    return true;
+}
+
+}  // namespace brelk::ini

@@ -1,0 +1,395 @@
+#include <gtest/gtest.h>
+
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <set>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "settings/IniFile.h"
+
+using namespace brelk;
+namespace fs = std::filesystem;
+
+namespace {
+
+// A fresh directory per test, and the bytes of the files in it.
+struct IniDir : ::testing::Test {
+    std::string dir;
+    void SetUp() override {
+        std::string templ = (fs::temp_directory_path() / "brelk-ini-XXXXXX").string();
+        ASSERT_NE(mkdtemp(templ.data()), nullptr);
+        dir = templ;
+    }
+    void TearDown() override {
+        fs::permissions(dir, fs::perms::owner_all, fs::perm_options::add);
+        fs::remove_all(dir);
+    }
+    std::string pathOf(const std::string& name) const { return dir + "/" + name; }
+    std::string put(const std::string& name, const std::string& bytes) const {
+        const std::string path = pathOf(name);
+        std::ofstream(path, std::ios::binary) << bytes;
+        return path;
+    }
+    static std::string bytesOf(const std::string& path) {
+        std::ifstream in(path, std::ios::binary);
+        std::ostringstream s;
+        s << in.rdbuf();
+        return s.str();
+    }
+    std::set<std::string> entries() const {
+        std::set<std::string> names;
+        for (const auto& e : fs::directory_iterator(dir)) names.insert(e.path().filename().string());
+        return names;
+    }
+    static unsigned modeOf(const std::string& path) {
+        struct stat st {};
+        ::stat(path.c_str(), &st);
+        return st.st_mode & 07777;
+    }
+};
+
+struct IniPath : IniDir {};
+struct IniRead : IniDir {};
+struct IniWrite : IniDir {};
+struct IniWriteRefused : IniDir {};
+struct IniAtomic : IniDir {};
+
+// ---- the path of a profile file --------------------------------------------
+
+TEST_F(IniPath, EmptyNameIsTheProgramsProfileAndOthersAreTrimmedWithoutExtension) {
+    struct Case { std::string iniFile, expected; };
+    const std::vector<Case> cases = {
+        {"", "/opt/b/Brelk.ini"},
+        {" mine.set ", "/opt/b/mine.set"},
+        {"mine.set", "/opt/b/mine.set"},
+        {"\tmine\t", "/opt/b/mine"},
+        {"two words.set", "/opt/b/two words.set"},
+        {"   ", "/opt/b/"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE("iniFile '" + c.iniFile + "'");
+        EXPECT_EQ(ini::profilePath("/opt/b", "Brelk", c.iniFile), c.expected);
+    }
+}
+
+TEST_F(IniPath, BlanksOnlyNameIsTheDirectoryItselfSoReadsAreEmptyAndWritesFail) {
+    const std::string path = ini::profilePath(dir, "Brelk", "   ");
+    EXPECT_TRUE(fs::equivalent(path, dir));
+    EXPECT_EQ(ini::readValue(path, "Options", "ListColor"), "");
+    const auto before = entries();
+    EXPECT_FALSE(ini::writeValue(path, "Options", "ListColor", "1"));
+    EXPECT_TRUE(fs::is_directory(dir));
+    EXPECT_EQ(entries(), before);
+}
+
+// ---- reading ---------------------------------------------------------------
+
+TEST_F(IniRead, FindsTheFirstMatchingSectionAndKey) {
+    struct Case { const char* what; std::string file, section, key, expected; };
+    const std::vector<Case> cases = {
+        {"other letter case", "[OPTIONS]\r\nlistcolor=True\r\n", "Options", "ListColor", "True"},
+        {"LF line ends", "[A]\nx=1\nk=2\n[B]\nk=3\n", "A", "k", "2"},
+        {"lone CR line ends", "[A]\rx=1\rk=2\r[B]\rk=3\r", "B", "k", "3"},
+        {"no end on last line", "[A]\r\nk=last", "A", "k", "last"},
+        {"blanks around names", "  [ A ]  \r\n \t k \t= \t v w \t\r\n", "A", "k", "v w"},
+        {"value holding '='", "[A]\r\nk=a=b\r\n", "A", "k", "a=b"},
+        {"comment skipped", "[A]\r\n;k=no\r\n  ; k=no\r\nk=yes\r\n", "A", "k", "yes"},
+        {"line without '=' skipped", "[A]\r\nk\r\nk=2\r\n", "A", "k", "2"},
+        {"first key counts", "[A]\r\nk=1\r\nK=2\r\n", "A", "k", "1"},
+        {"first section counts", "[A]\r\nk=1\r\n[a]\r\nk=2\r\n", "a", "K", "1"},
+        {"key only in a later duplicate section", "[A]\r\nx=1\r\n[a]\r\nk=2\r\n", "A", "k", ""},
+        {"key in another section", "[B]\r\nk=1\r\n[A]\r\nx=2\r\n", "A", "k", ""},
+        {"key before any section", "k=1\r\n[A]\r\n", "A", "k", ""},
+        {"missing section", "[B]\r\nk=1\r\n", "A", "k", ""},
+        {"missing key", "[A]\r\nkk=1\r\n", "A", "k", ""},
+        {"empty value", "[A]\r\nk=\r\nk=2\r\n", "A", "k", ""},
+        {"blank value", "[A]\r\nk=   \r\n", "A", "k", ""},
+        {"empty file", "", "A", "k", ""},
+        {"double quotes", "[A]\r\nk=\"a b\"\r\n", "A", "k", "a b"},
+        {"single quotes", "[A]\r\nk='x'\r\n", "A", "k", "x"},
+        {"blanks inside quotes kept", "[A]\r\nk= \" x \" \r\n", "A", "k", " x "},
+        {"mismatched quotes kept", "[A]\r\nk=\"x'\r\n", "A", "k", "\"x'"},
+        {"lone quote kept", "[A]\r\nk=\"\r\n", "A", "k", "\""},
+        {"unclosed bracket is no header", "[A]\r\n[B\r\nk=1\r\n", "A", "k", "1"},
+        {"NUL byte is an ordinary byte", std::string("[A]\r\nk=a\0b\r\n", 12), "A", "k", std::string("a\0b", 3)},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        EXPECT_EQ(ini::readValue(put("p.ini", c.file), c.section, c.key), c.expected);
+    }
+}
+
+TEST_F(IniRead, LongValueIsCutTo254Bytes) {
+    std::string value;
+    for (int i = 0; i < 300; ++i) value += static_cast<char>('a' + i % 26);
+    const std::string path = put("p.ini", "[A]\r\nk=" + value + "\r\n");
+    EXPECT_EQ(ini::readValue(path, "A", "k"), value.substr(0, 254));
+    put("p.ini", "[A]\r\nk=" + value.substr(0, 254) + "\r\n");
+    EXPECT_EQ(ini::readValue(path, "A", "k"), value.substr(0, 254));
+}
+
+TEST_F(IniRead, MissingOrUnopenableFilesReadAsEmpty) {
+    EXPECT_EQ(ini::readValue(pathOf("none.ini"), "A", "k"), "");
+    EXPECT_EQ(ini::readValue(pathOf("no/dir/p.ini"), "A", "k"), "");
+    EXPECT_EQ(ini::readValue(dir, "A", "k"), "");
+    ASSERT_EQ(::mkfifo(pathOf("pipe").c_str(), 0644), 0);
+    EXPECT_EQ(ini::readValue(pathOf("pipe"), "A", "k"), "");  // must not wait for a writer
+}
+
+TEST_F(IniRead, BinaryJunkNeitherCrashesNorHidesALaterSection) {
+    std::mt19937 rng(1234);
+    std::string junk(1 << 16, '\0');
+    for (char& c : junk) c = static_cast<char>(rng() & 0xFF);
+    const std::string path = put("p.ini", junk);
+    EXPECT_EQ(ini::readValue(path, "Options", "ListColor"), "");
+    put("p.ini", junk + "\r\n[Options]\r\nListColor=12\r\n");
+    EXPECT_EQ(ini::readValue(path, "Options", "ListColor"), "12");
+}
+
+// ---- writing ---------------------------------------------------------------
+
+TEST_F(IniWrite, ChangesOnlyTheOneLineOrAddsOne) {
+    struct Case { const char* what; std::string before, section, key, value, after; };
+    const std::vector<Case> cases = {
+        {"new file", "", "Options", "ListColor", "1", "[Options]\r\nListColor=1\r\n"},
+        {"value trimmed", "", "A", "k", " 5 ", "[A]\r\nk=5\r\n"},
+        {"empty value keeps the key", "[A]\r\nk=1\r\n", "A", "k", "", "[A]\r\nk=\r\n"},
+        {"key spelling of the file kept", "[Options]\r\nTimedItems=1\r\n", "options", "timeditems", "2",
+         "[Options]\r\nTimedItems=2\r\n"},
+        {"blanks of the old line dropped", "[A]\r\n  k = 1 \r\n", "A", "k", "2", "[A]\r\nk=2\r\n"},
+        {"comment stays in place", "; mine\r\n[A]\r\n; about k\r\nk=1\r\n; end\r\n", "A", "k", "2",
+         "; mine\r\n[A]\r\n; about k\r\nk=2\r\n; end\r\n"},
+        {"only the first key of the first section", "[S]\r\nk=1\r\nK=2\r\n[s]\r\nk=3\r\n", "s", "k", "9",
+         "[S]\r\nk=9\r\nK=2\r\n[s]\r\nk=3\r\n"},
+        {"foreign line ends kept", "; c\n[A]\nk=1\rother\n", "A", "k", "2", "; c\n[A]\nk=2\rother\n"},
+        {"new key after the section's last key", "[A]\r\nx=1\r\ny=2\r\n\r\n; next\r\n[B]\r\nz=3\r\n", "A", "New", "v",
+         "[A]\r\nx=1\r\ny=2\r\nNew=v\r\n\r\n; next\r\n[B]\r\nz=3\r\n"},
+        {"new key in a section without keys", "[A]\r\n; none\r\n[B]\r\n", "a", "k", "v",
+         "[A]\r\nk=v\r\n; none\r\n[B]\r\n"},
+        {"new key in LF file", "[A]\nx=1\n", "A", "k", "v", "[A]\nx=1\nk=v\r\n"},
+        {"new key after an unended last line", "[A]\r\nx=1", "A", "k", "v", "[A]\r\nx=1\r\nk=v\r\n"},
+        {"new section at the end", "[A]\r\nx=1\r\n", "B", "k", "v", "[A]\r\nx=1\r\n[B]\r\nk=v\r\n"},
+        {"new section after an unended line", "[A]\r\nx=1", "B", "k", "v", "[A]\r\nx=1\r\n[B]\r\nk=v\r\n"},
+        {"new section after a lone CR", "[A]\rx=1\r", "B", "k", "v", "[A]\rx=1\r[B]\r\nk=v\r\n"},
+        {"key before any section is not the section's", "k=1\r\n", "A", "k", "2", "k=1\r\n[A]\r\nk=2\r\n"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        const std::string path = pathOf("p.ini");
+        fs::remove(path);
+        if (!c.before.empty()) put("p.ini", c.before);
+        EXPECT_TRUE(ini::writeValue(path, c.section, c.key, c.value));
+        EXPECT_EQ(bytesOf(path), c.after);
+    }
+}
+
+TEST_F(IniWrite, WrittenValuesReadBackAndRepeatedWritesLeaveOneLine) {
+    const std::string path = pathOf("Brelk.ini");
+    ASSERT_TRUE(ini::writeValue(path, "Options", "MatchDuration", "20:00"));
+    ASSERT_TRUE(ini::writeValue(path, "Colors", "ListColor", "255"));
+    ASSERT_TRUE(ini::writeValue(path, "options", "matchduration", "  25:00 "));
+    ASSERT_TRUE(ini::writeValue(path, "Options", "Blink", "True"));
+    EXPECT_EQ(ini::readValue(path, "OPTIONS", "MatchDuration"), "25:00");
+    EXPECT_EQ(ini::readValue(path, "Colors", "ListColor"), "255");
+    EXPECT_EQ(ini::readValue(path, "Options", "Blink"), "True");
+    EXPECT_EQ(bytesOf(path), "[Options]\r\nMatchDuration=25:00\r\nBlink=True\r\n[Colors]\r\nListColor=255\r\n");
+}
+
+TEST_F(IniWrite, JunkAroundIsKeptByteForByte) {
+    std::mt19937 rng(99);
+    std::string junk(4096, '\0');
+    for (char& c : junk) c = static_cast<char>(rng() & 0xFF);
+    const std::string path = put("p.ini", junk);
+    ASSERT_TRUE(ini::writeValue(path, "Options", "ListColor", "7"));
+    const std::string after = bytesOf(path);
+    ASSERT_GE(after.size(), junk.size());
+    EXPECT_EQ(after.substr(0, junk.size()), junk);
+    EXPECT_EQ(ini::readValue(path, "Options", "ListColor"), "7");
+}
+
+TEST_F(IniWrite, KeepsPermissionsAndLeavesNoTemporaryFile) {
+    const std::string path = put("p.ini", "[A]\r\nk=1\r\n");
+    for (unsigned mode : {0640u, 0604u, 0666u}) {
+        SCOPED_TRACE(mode);
+        fs::permissions(path, static_cast<fs::perms>(mode));
+        ASSERT_TRUE(ini::writeValue(path, "A", "k", std::to_string(mode)));
+        EXPECT_EQ(modeOf(path), mode);
+        EXPECT_EQ(ini::readValue(path, "A", "k"), std::to_string(mode));
+        EXPECT_EQ(entries(), std::set<std::string>{"p.ini"});
+    }
+}
+
+TEST_F(IniWrite, WritesThroughALinkToTheFileItNames) {
+    const std::string real = put("real.ini", "[A]\r\nk=1\r\n");
+    const std::string link = pathOf("link.ini");
+    fs::create_symlink(real, link);
+    ASSERT_TRUE(ini::writeValue(link, "A", "k", "2"));
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(bytesOf(real), "[A]\r\nk=2\r\n");
+}
+
+// ---- writes that must change nothing ---------------------------------------
+
+TEST_F(IniWriteRefused, ReadOnlyFileStaysAsItIs) {
+    const std::string before = "[A]\r\nk=1\r\n";
+    const std::string path = put("p.ini", before);
+    fs::permissions(path, static_cast<fs::perms>(0444));
+    EXPECT_FALSE(ini::writeValue(path, "A", "k", "2"));
+    EXPECT_FALSE(ini::writeValue(path, "B", "k", "2"));
+    EXPECT_EQ(bytesOf(path), before);
+    EXPECT_EQ(modeOf(path), 0444u);
+    EXPECT_EQ(entries(), std::set<std::string>{"p.ini"});
+}
+
+TEST_F(IniWriteRefused, ReadOnlyDirectoryStaysAsItIs) {
+    const std::string before = "[A]\r\nk=1\r\n";
+    const std::string path = put("p.ini", before);
+    fs::permissions(dir, static_cast<fs::perms>(0555));
+    if (modeOf(dir) != 0555u) GTEST_SKIP() << "cannot make a directory read-only here";
+    EXPECT_FALSE(ini::writeValue(path, "A", "k", "2"));
+    EXPECT_FALSE(ini::writeValue(pathOf("new.ini"), "A", "k", "2"));
+    fs::permissions(dir, fs::perms::owner_all, fs::perm_options::add);
+    EXPECT_EQ(bytesOf(path), before);
+    EXPECT_EQ(entries(), std::set<std::string>{"p.ini"});
+}
+
+TEST_F(IniWriteRefused, MissingDirectoryIsNeverCreated) {
+    EXPECT_FALSE(ini::writeValue(pathOf("sub/p.ini"), "A", "k", "1"));
+    EXPECT_FALSE(fs::exists(pathOf("sub")));
+    put("file", "x");
+    EXPECT_FALSE(ini::writeValue(pathOf("file/p.ini"), "A", "k", "1"));
+    EXPECT_EQ(bytesOf(pathOf("file")), "x");
+}
+
+TEST_F(IniWriteRefused, EmptyKeyOrLineBreaksChangeNothing) {
+    const std::string before = "[A]\r\nk=1\r\n";
+    const std::string path = put("p.ini", before);
+    EXPECT_FALSE(ini::writeValue(path, "A", "", "2"));
+    EXPECT_FALSE(ini::writeValue(path, "A", "k", "2\r\n[B]"));
+    EXPECT_FALSE(ini::writeValue(path, "A", "k", "2\n"));
+    EXPECT_FALSE(ini::writeValue(path, "A\r", "k", "2"));
+    EXPECT_FALSE(ini::writeValue(path, "A", "k\nx", "2"));
+    EXPECT_EQ(bytesOf(path), before);
+}
+
+// ---- atomic replacement ----------------------------------------------------
+
+TEST_F(IniAtomic, FailedRenameRemovesTheTemporaryFile) {
+    fs::create_directory(pathOf("target"));
+    put("target/inside", "keep");
+    const auto before = entries();
+    EXPECT_FALSE(ini::replaceFile(pathOf("target"), "new bytes"));
+    EXPECT_EQ(entries(), before);
+    EXPECT_TRUE(fs::is_directory(pathOf("target")));
+    EXPECT_EQ(bytesOf(pathOf("target/inside")), "keep");
+}
+
+TEST_F(IniAtomic, ReplacesOrCreatesWithExactBytes) {
+    const std::string path = pathOf("f");
+    ASSERT_TRUE(ini::replaceFile(path, std::string("a\0b", 3)));
+    EXPECT_EQ(bytesOf(path), std::string("a\0b", 3));
+    ASSERT_TRUE(ini::replaceFile(path, ""));
+    EXPECT_EQ(bytesOf(path), "");
+    EXPECT_EQ(entries(), std::set<std::string>{"f"});
+}
+
+// A profile big enough that one write takes a while, and the only contents
+// that a reader may ever see while a writer alternates two big values.
+struct BigProfile {
+    std::string old, withA, withB, valueA, valueB;
+    BigProfile() : valueA(1'000'000, 'a'), valueB(1'000'000, 'b') {
+        std::string head;
+        for (int i = 0; i < 1000; ++i) head += "[S" + std::to_string(i) + "]\r\nkey=" + std::string(40, 'x') + "\r\n";
+        old = head + "[Big]\r\nvalue=old\r\n";
+        withA = head + "[Big]\r\nvalue=" + valueA + "\r\n";
+        withB = head + "[Big]\r\nvalue=" + valueB + "\r\n";
+    }
+    bool whole(const std::string& bytes) const { return bytes == old || bytes == withA || bytes == withB; }
+};
+
+// Forks a child that writes the two values in turn until it is killed.
+pid_t startWriter(const std::string& path, const BigProfile& big) {
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+        const auto stop = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        while (std::chrono::steady_clock::now() < stop) {
+            ini::writeValue(path, "Big", "value", big.valueA);
+            ini::writeValue(path, "Big", "value", big.valueB);
+        }
+        ::_exit(0);
+    }
+    return pid;
+}
+
+void killWriter(pid_t pid) {
+    ::kill(pid, SIGKILL);
+    int status = 0;
+    ::waitpid(pid, &status, 0);
+}
+
+TEST_F(IniAtomic, ReadersOnlyEverSeeAWholeFile) {
+    const BigProfile big;
+    const std::string path = put("p.ini", big.old);
+    const pid_t pid = startWriter(path, big);
+    ASSERT_GT(pid, 0);
+    int torn = 0;
+    std::set<std::string> seen;
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (!(seen.count(big.withA) && seen.count(big.withB)) && std::chrono::steady_clock::now() < deadline) {
+        const std::string bytes = bytesOf(path);
+        if (!big.whole(bytes)) ++torn;
+        else seen.insert(bytes);
+    }
+    killWriter(pid);
+    EXPECT_EQ(torn, 0);
+    EXPECT_TRUE(seen.count(big.withA) && seen.count(big.withB)) << "the writer never got both values through";
+}
+
+TEST_F(IniAtomic, AWriterKilledMidwayLeavesTheOldOrTheNewFileWhole) {
+    const BigProfile big;
+    const std::string path = put("p.ini", big.old);
+    const auto writing = [this] {
+        for (const auto& name : entries())
+            if (name.rfind(".p.ini.tmp-", 0) == 0) return true;
+        return false;
+    };
+    constexpr int kRounds = 10;
+    for (int round = 0; round < kRounds; ++round) {
+        SCOPED_TRACE(round);
+        const pid_t pid = startWriter(path, big);
+        ASSERT_GT(pid, 0);
+        // Kill while the new file is being written: once its temporary file
+        // is there, and a little later each round.
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        bool caught = false;
+        while (!caught && std::chrono::steady_clock::now() < deadline) caught = writing();
+        const auto killAt = std::chrono::steady_clock::now() + std::chrono::microseconds(150 * round);
+        while (std::chrono::steady_clock::now() < killAt) {
+        }
+        killWriter(pid);
+        ASSERT_TRUE(caught) << "no write was ever under way";
+
+        const std::string bytes = bytesOf(path);
+        EXPECT_TRUE(big.whole(bytes)) << "file of " << bytes.size() << " bytes is torn";
+        const std::string value = ini::readValue(path, "Big", "value");
+        EXPECT_TRUE(value == "old" || value == big.valueA.substr(0, 254) || value == big.valueB.substr(0, 254));
+        EXPECT_EQ(ini::readValue(path, "S999", "key"), std::string(40, 'x'));
+
+        // What a killed writer leaves behind is its temporary file only.
+        for (const auto& name : entries())
+            if (name != "p.ini") fs::remove(pathOf(name));
+    }
+}
+
+}  // namespace
