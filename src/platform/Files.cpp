@@ -1,5 +1,11 @@
 #include "platform/Files.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
 #include <array>
 #include <cctype>
 #include <filesystem>
@@ -15,12 +21,34 @@ namespace brelk::files {
 
 void LineReader::open(const std::string& path) {
     if (open_) raise(err::FileAlreadyOpen);
-    std::error_code ec;
-    if (!fs::exists(path, ec) || fs::is_directory(path, ec)) raise(err::FileNotFound);
-    std::ifstream in(path, std::ios::binary);
-    if (!in) raise(err::PathNotFound, "Path/File access error");
-    bytes_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    if (in.bad()) raise(err::PathNotFound, "Path/File access error");
+    // Only a regular file is a text file: a directory, a device or a named
+    // pipe is refused at once. Opening without blocking keeps a pipe with no
+    // writer from holding the program up.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) {
+        if (errno == ENOENT || errno == ENOTDIR) raise(err::FileNotFound);
+        raise(err::PathNotFound, "Path/File access error");
+    }
+    struct stat st {};
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        ::close(fd);
+        raise(err::FileNotFound);
+    }
+    std::string bytes;
+    char buf[65536];
+    for (;;) {
+        const ssize_t n = ::read(fd, buf, sizeof buf);
+        if (n > 0) {
+            bytes.append(buf, static_cast<std::size_t>(n));
+        } else if (n == 0) {
+            break;
+        } else if (errno != EINTR) {
+            ::close(fd);
+            raise(err::PathNotFound, "Path/File access error");
+        }
+    }
+    ::close(fd);
+    bytes_ = std::move(bytes);
     pos_ = 0;
     open_ = true;
     utf8_ = isValidUtf8(bytes_);
