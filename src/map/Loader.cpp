@@ -84,13 +84,14 @@ void FormInit(Program& p) {
     auto& v = p.vars;
     f.self().setNumber(Prop::Width, 2050);
     f.self().setNumber(Prop::Height, 700);
-    for (std::int16_t i = 1; i <= v.ItemCount; ++i)
+    // Counted wider than a row number, so that a full list of 32767 rows ends.
+    for (int n = 1; n <= v.ItemCount; ++n)
         for (const char* name : {"lblFond", "lblItem", "lblTimer", "ico", "timerItem", "timerFlash", "timerClick",
                                  "lblTimerGlobal"})
-            f.Unload(name, i);
-    for (std::int16_t i = 1; i <= v.CategoryCount; ++i) {
-        f.Unload("lblCat", i);
-        f.Unload("lineCat", i);
+            f.Unload(name, static_cast<std::int16_t>(n));
+    for (int n = 1; n <= v.CategoryCount; ++n) {
+        f.Unload("lblCat", static_cast<std::int16_t>(n));
+        f.Unload("lineCat", static_cast<std::int16_t>(n));
     }
     f.timerMatch().setEnabled(false);
     f.lblMatchTimer().setCaption(matchDurationText(v));

@@ -1,5 +1,8 @@
 #include "settings/Appearance.h"
 
+#include <cstdint>
+#include <vector>
+
 #include "clock/MatchClock.h"
 #include "platform/Numbers.h"
 #include "state/Program.h"
@@ -7,16 +10,28 @@
 
 namespace brelk {
 
+namespace {
+
+// Row numbers 1 to count, counted so that a full list of 32767 rows ends.
+std::vector<std::int16_t> rowNumbers(std::int16_t count) {
+    std::vector<std::int16_t> rows;
+    for (int n = 1; n <= count; ++n) rows.push_back(static_cast<std::int16_t>(n));
+    return rows;
+}
+
+}  // namespace
+
 void ChangeFormColor(Program& p) { p.frmMain.self().setNumber(Prop::BackColor, p.vars.FormColor); }
 
 void ChangeListColor(Program& p) {
-    for (std::int16_t i = 1; i <= p.vars.ItemCount; ++i)
+    for (const std::int16_t i : rowNumbers(p.vars.ItemCount))
         p.frmMain.lblFond(i).setNumber(Prop::BackColor, i % 2 == 0 ? p.vars.ListColor1 : p.vars.ListColor2);
 }
 
 void ItemBackground(Program& p, bool test) {
     ChangeListColor(p);
-    for (std::int16_t i = 1; i <= p.vars.ItemCount; ++i) p.frmMain.lblFond(i).setNumber(Prop::BackStyle, test ? 1 : 0);
+    for (const std::int16_t i : rowNumbers(p.vars.ItemCount))
+        p.frmMain.lblFond(i).setNumber(Prop::BackStyle, test ? 1 : 0);
 }
 
 void ChangeMapNameColor(Program& p) {
@@ -27,7 +42,7 @@ void ChangeMapNameColor(Program& p) {
 void ChangeTimerColor(Program& p) {
     auto& f = p.frmMain;
     auto& v = p.vars;
-    for (std::int16_t i = 1; i <= v.ItemCount; ++i) {
+    for (const std::int16_t i : rowNumbers(v.ItemCount)) {
         // A row held by a pause still counts as in use.
         const bool active = f.timerItem(i).enabled() || f.lblTimer(i).caption() != "00:00";
         f.lblTimer(i).setNumber(Prop::ForeColor, active ? v.ActiveTimerColor : v.IdleTimerColor);
@@ -40,7 +55,7 @@ void ChangeTimerColor(Program& p) {
 }
 
 void ChangeCategoryColor(Program& p) {
-    for (std::int16_t i = 1; i <= p.vars.CategoryCount; ++i) {
+    for (const std::int16_t i : rowNumbers(p.vars.CategoryCount)) {
         p.frmMain.lblCat(i).setNumber(Prop::ForeColor, p.vars.CategoryColor);
         p.frmMain.lineCat(i).setNumber(Prop::BorderColor, p.vars.CategoryColor);
         p.frmMain.lblCat(i).setFlag(Prop::FontBold, num::isTrue(p.vars.CategoryBold));
