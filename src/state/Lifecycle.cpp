@@ -50,10 +50,12 @@ void Form_Load(Program& p) {
     std::string launched = num::numberText(v.Launched);
     WriteIniValue(p, "Stats", "Launched", launched, "");
 
-    // Where the profile file cannot be created, a first start still runs on
-    // the built-in settings, without a message.
-    if (firstStart && !profileExists(p)) applyBuiltInSettings(p);
-    else ReadIniFile(p, "");
+    // The settings begin at their built-in values, so that a key that cannot
+    // be read, and every key after it, keeps a usable value. Where the
+    // profile file could not be created, a first start runs on them without
+    // a message.
+    applyBuiltInSettings(p);
+    if (!firstStart || profileExists(p)) ReadIniFile(p, "");
     ChangeTimerColor(p);
     ChangeFormColor(p);
     ChangeListColor(p);

@@ -1,0 +1,137 @@
+// The appearance procedures on rows and clock states that only the options
+// window can reach from outside.
+
+#include <string>
+#include <vector>
+
+#include "ProgramDoubles.h"
+#include "map/Layout.h"
+#include "settings/Appearance.h"
+
+using namespace brelk;
+using brelk::testing::ProgramTest;
+
+namespace {
+
+struct Look : ProgramTest {
+    void SetUp() override {
+        ProgramTest::SetUp();
+        p().start();
+        auto& v = p().vars;
+        v.IdleTimerColor = 11;
+        v.ActiveTimerColor = 22;
+        v.IdleItemColor = 33;
+        v.ActiveItemColor = 44;
+        v.IdleTimerBold = 0;
+        v.ActiveTimerBold = -1;
+        v.IdleItemBold = 0;
+        v.ActiveItemBold = -1;
+        v.MatchTimerColor = 100;
+        v.LastMinuteMatchTimerColor = 200;
+        v.PausedMatchTimerColor = 300;
+        v.ListColor1 = 1001;
+        v.ListColor2 = 1002;
+        for (const char* line : {"Mega:35", "Quad:120", "Red:25"}) AddItem(p(), line);
+    }
+    Control& timer(int i) { return p().frmMain.lblTimer(static_cast<std::int16_t>(i)); }
+    Control& item(int i) { return p().frmMain.lblItem(static_cast<std::int16_t>(i)); }
+    Control& global(int i) { return p().frmMain.lblTimerGlobal(static_cast<std::int16_t>(i)); }
+};
+
+TEST_F(Look, HeldRowsTakeTheActiveLookAndFlashingRowsTheIdleOne) {
+    auto& f = p().frmMain;
+    // Row 1 held by a pause, row 2 flashing at "00:00", row 3 idle.
+    timer(1).setCaption("00:42");
+    f.timerItem(1).setEnabled(false);
+    f.timerFlash(2).setEnabled(true);
+    ChangeTimerColor(p());
+    EXPECT_EQ(timer(1).number(Prop::ForeColor), 22);
+    EXPECT_TRUE(timer(1).flag(Prop::FontBold));
+    EXPECT_EQ(item(1).number(Prop::ForeColor), 44);
+    EXPECT_TRUE(item(1).flag(Prop::FontBold));
+    EXPECT_EQ(global(1).number(Prop::ForeColor), 22);
+    for (int i : {2, 3}) {
+        EXPECT_EQ(timer(i).number(Prop::ForeColor), 11) << i;
+        EXPECT_FALSE(timer(i).flag(Prop::FontBold)) << i;
+        EXPECT_EQ(item(i).number(Prop::ForeColor), 33) << i;
+        EXPECT_FALSE(item(i).flag(Prop::FontBold)) << i;
+        EXPECT_EQ(global(i).number(Prop::ForeColor), 11) << i;
+    }
+}
+
+TEST_F(Look, TheNextRespawnColumnFollowsTheSettingOnActiveRowsOnly) {
+    p().vars.ShowItemsTimers = 0;
+    timer(1).setCaption("00:42");
+    global(1).setVisible(true);
+    global(2).setVisible(true);
+    ChangeTimerColor(p());
+    EXPECT_FALSE(global(1).visible());
+    EXPECT_TRUE(global(2).visible());
+    p().vars.ShowItemsTimers = -1;
+    global(2).setVisible(false);
+    ChangeTimerColor(p());
+    EXPECT_TRUE(global(1).visible());
+    EXPECT_FALSE(global(2).visible());
+}
+
+TEST_F(Look, ListStripsAlternateByRowNumberAndShowOnlyWhenOpaque) {
+    auto& f = p().frmMain;
+    ItemBackground(p(), false);
+    for (int i : {1, 2, 3}) EXPECT_EQ(f.lblFond(static_cast<std::int16_t>(i)).number(Prop::BackStyle), 0) << i;
+    EXPECT_EQ(f.lblFond(1).number(Prop::BackColor), 1002);
+    EXPECT_EQ(f.lblFond(2).number(Prop::BackColor), 1001);
+    EXPECT_EQ(f.lblFond(3).number(Prop::BackColor), 1002);
+    p().vars.ListColor2 = 5005;
+    ChangeListColor(p());
+    EXPECT_EQ(f.lblFond(3).number(Prop::BackColor), 5005);
+    EXPECT_EQ(f.lblFond(3).number(Prop::BackStyle), 0);
+    ItemBackground(p(), true);
+    EXPECT_EQ(f.lblFond(3).number(Prop::BackStyle), 1);
+    EXPECT_EQ(f.lblFond(3).number(Prop::BackColor), 5005);
+}
+
+struct ClockCase {
+    const char* state;
+    bool reverse;
+    const char* caption;
+    int expected;
+};
+
+TEST_F(Look, TheClockTakesTheColourOfItsStateAndLastMinute) {
+    const std::vector<ClockCase> cases = {
+        {"going", false, "19:30", 200}, {"going", false, "19:00", 100}, {"going", false, "19:01", 200},
+        {"going", true, "01:00", 200},  {"going", true, "01:01", 100},  {"paused", false, "19:30", 300},
+        {"not started", false, "19:30", 100}, {"", true, "00:30", 100},
+    };
+    auto& f = p().frmMain;
+    p().vars.MatchDuration = "20:00";
+    for (const ClockCase& c : cases) {
+        SCOPED_TRACE(std::string(c.state) + " " + c.caption);
+        p().vars.MatchState = c.state;
+        p().vars.MatchTimerReverse = c.reverse ? -1 : 0;
+        f.lblMatchTimer().setCaption(c.caption);
+        f.lblMatchTimer().setNumber(Prop::ForeColor, 1);
+        f.lblMatchStatus().setCaption("Match Ended");
+        ChangeGlobalTimerColor(p());
+        EXPECT_EQ(f.lblMatchTimer().number(Prop::ForeColor), c.expected);
+        EXPECT_EQ(f.lblMatchStatus().number(Prop::ForeColor), c.expected);
+        EXPECT_EQ(f.lblMatchTimer().caption(), c.caption);
+        EXPECT_EQ(f.lblMatchStatus().caption(), "Match Ended");
+    }
+}
+
+TEST_F(Look, TheMapNameShadowFollowsTheSettingAndKeepsItsOwnColour) {
+    auto& f = p().frmMain;
+    p().vars.MapNameColor = 4242;
+    p().vars.MapName3D = 0;
+    ChangeMapNameColor(p());
+    EXPECT_EQ(f.lblMapName(1).number(Prop::ForeColor), 4242);
+    EXPECT_TRUE(f.lblMapName(1).visible());
+    EXPECT_FALSE(f.lblMapName(0).visible());
+    EXPECT_EQ(f.lblMapName(0).number(Prop::ForeColor), 0x40);
+    p().vars.MapName3D = -1;
+    ChangeMapNameColor(p());
+    EXPECT_TRUE(f.lblMapName(0).visible());
+}
+
+}  // namespace
