@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtGlobal>
+
+class QPainter;
+class QRectF;
+class QPixmap;
+class QIcon;
+
+namespace brelk::view {
+
+// The pictures of the icon words, in catalogue order (QUAD, 25H, ... MEDKIT).
+constexpr int kItemIconCount = 20;
+
+// Paints picture `index` into `target`, antialiased, leaving the ground clear.
+// An index outside the catalogue paints nothing.
+void paintItemIcon(QPainter& painter, const QRectF& target, int index);
+
+// The picture as a transparent pixmap of `logicalSize` points, drawn at the
+// device pixel ratio so it stays crisp on high-density screens.
+QPixmap itemIconPixmap(int index, int logicalSize, qreal dpr);
+
+// The program's window icon: a stopwatch with a red hand, in several sizes.
+QIcon appIcon();
+
+}  // namespace brelk::view
