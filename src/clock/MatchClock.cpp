@@ -5,7 +5,9 @@
 #include "platform/Errors.h"
 #include "platform/Numbers.h"
 #include "state/Program.h"
+#include "state/RowRange.h"
 #include "state/TimeText.h"
+#include "timers/Countdown.h"
 
 namespace brelk {
 
@@ -45,7 +47,8 @@ void StartStopGlobalTimer(Program& p) {
         status.setCaption("");
         status.setNumber(Prop::ForeColor, v.MatchTimerColor);
         v.MatchState = "going";
-        for (std::int16_t i = 1; i <= v.ItemCount; ++i) {
+        for (const std::int16_t i : rowsUpTo(v.ItemCount)) {
+            if (!isCompleteRow(p, i)) continue;  // a row left half-made by a bad map line stays still
             if (f.lblTimer(i).caption() != "00:00") {
                 f.timerItem(i).setEnabled(true);
                 f.lblTimerGlobal(i).setVisible(true);
@@ -59,7 +62,7 @@ void StartStopGlobalTimer(Program& p) {
         status.setNumber(Prop::ForeColor, v.PausedMatchTimerColor);
         status.setCaption("Paused");
         v.MatchState = "paused";
-        for (std::int16_t i = 1; i <= v.ItemCount; ++i) f.timerItem(i).setEnabled(false);
+        for (const std::int16_t i : rowsUpTo(v.ItemCount)) f.timerItem(i).setEnabled(false);
     }
 }
 
@@ -87,7 +90,7 @@ void EndOfMatch(Program& p) {
     f.timerMatch().setEnabled(false);
     f.lblMatchStatus().setCaption("Match Ended");
     p.vars.MatchState = "not started";
-    for (std::int16_t i = 1; i <= p.vars.ItemCount; ++i) {
+    for (const std::int16_t i : rowsUpTo(p.vars.ItemCount)) {
         f.timerClick(i).setTag("4");
         f.timerClick(i).setEnabled(true);
     }

@@ -3,6 +3,7 @@
 #include "map/ItemLine.h"
 #include "platform/Numbers.h"
 #include "state/Program.h"
+#include "state/RowRange.h"
 #include "timers/Countdown.h"
 
 namespace brelk {
@@ -116,9 +117,9 @@ void AjusteLargeur(Program& p) {
     f.lblMatchTimer().setNumber(Prop::Left, 1320 + growth);
     f.picTune().setNumber(Prop::Left, 1200 + growth);
 
-    for (std::int16_t i = 1; i <= v.CategoryCount; ++i) f.lineCat(i).setNumber(Prop::X2, 1800 + growth);
-    for (std::int16_t i = 1; i <= v.ItemCount; ++i) {
-        if (f.timerItem(i).enabled() || v.MatchState != "going")
+    for (const std::int16_t i : rowsUpTo(v.CategoryCount)) f.lineCat(i).setNumber(Prop::X2, 1800 + growth);
+    for (const std::int16_t i : rowsUpTo(v.ItemCount)) {
+        if (isCompleteRow(p, i) && (f.timerItem(i).enabled() || v.MatchState != "going"))
             f.lblTimerGlobal(i).setVisible(num::isTrue(v.ShowItemsTimers));
         f.lblFond(i).setNumber(Prop::Width, 1700 + growth);
     }

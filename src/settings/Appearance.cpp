@@ -7,6 +7,7 @@
 #include "platform/Numbers.h"
 #include "state/Program.h"
 #include "state/TimeText.h"
+#include "timers/Countdown.h"
 
 namespace brelk {
 
@@ -43,6 +44,7 @@ void ChangeTimerColor(Program& p) {
     auto& f = p.frmMain;
     auto& v = p.vars;
     for (const std::int16_t i : rowNumbers(v.ItemCount)) {
+        if (!isCompleteRow(p, i)) continue;  // a half-made row keeps showing only its background
         // A row held by a pause still counts as in use.
         const bool active = f.timerItem(i).enabled() || f.lblTimer(i).caption() != "00:00";
         f.lblTimer(i).setNumber(Prop::ForeColor, active ? v.ActiveTimerColor : v.IdleTimerColor);

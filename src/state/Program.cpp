@@ -9,11 +9,7 @@
 namespace brelk {
 
 Program::Program(Services& services) : sys(services), frmMain(services.timers) {
-    frmMain.setErrorReporter([this](const RuntimeError& e) {
-        // An error no procedure caught: tell the user and go on.
-        MsgBox("Run-time error '" + std::to_string(e.number()) + "':\r\n\r\n" + e.what(),
-               msgbox::Critical, "Brelk");
-    });
+    frmMain.setErrorReporter([this](const RuntimeError& e) { reportError(e); });
     registerRowHandlers(*this);
     registerClockHandlers(*this);
     registerMapHandlers(*this);
@@ -41,6 +37,11 @@ bool Program::guarded(const std::function<void()>& action) {
         return false;
     }
     return !ended_;
+}
+
+void Program::reportError(const RuntimeError& e) {
+    // An error no procedure caught: tell the user and go on.
+    MsgBox("Run-time error '" + std::to_string(e.number()) + "':\r\n\r\n" + e.what(), msgbox::Critical, "Brelk");
 }
 
 int Program::MsgBox(const std::string& prompt, int style, const std::string& title) {

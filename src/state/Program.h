@@ -9,6 +9,8 @@
 
 namespace brelk {
 
+class RuntimeError;
+
 // One running program: the shared variables, the main window and the platform
 // services it runs on. Every procedure and handler works on one of these; a
 // test builds a fresh one.
@@ -29,6 +31,8 @@ public:
     bool ended() const { return ended_; }
 
     int MsgBox(const std::string& prompt, int style, const std::string& title);
+    // Tells the user of a run-time error that no procedure caught.
+    void reportError(const RuntimeError& e);
 
     // Runs one piece of input (a mouse event, a tick, a command) and absorbs
     // the end of the program, which is then reported to the end listener.

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace brelk::scenario {
+
+// One word of a scenario line; a quoted string keeps its unescaped bytes and
+// is told apart from a bare word.
+struct Token {
+    std::string text;
+    bool quoted = false;
+};
+
+// Splits a line into words and strings. Strings take the escapes \" \\ \r \n
+// \t and \xHH. Throws std::runtime_error on an unterminated string or a bad escape.
+std::vector<Token> tokenize(const std::string& line);
+
+}  // namespace brelk::scenario
