@@ -11,6 +11,7 @@
 #include "platform/Numbers.h"
 #include "settings/Appearance.h"
 #include "state/Program.h"
+#include "state/RowRange.h"
 
 namespace brelk {
 
@@ -84,14 +85,13 @@ void FormInit(Program& p) {
     auto& v = p.vars;
     f.self().setNumber(Prop::Width, 2050);
     f.self().setNumber(Prop::Height, 700);
-    // Counted wider than a row number, so that a full list of 32767 rows ends.
-    for (int n = 1; n <= v.ItemCount; ++n)
+    for (const std::int16_t i : rowsUpTo(v.ItemCount))
         for (const char* name : {"lblFond", "lblItem", "lblTimer", "ico", "timerItem", "timerFlash", "timerClick",
                                  "lblTimerGlobal"})
-            f.Unload(name, static_cast<std::int16_t>(n));
-    for (int n = 1; n <= v.CategoryCount; ++n) {
-        f.Unload("lblCat", static_cast<std::int16_t>(n));
-        f.Unload("lineCat", static_cast<std::int16_t>(n));
+            f.Unload(name, i);
+    for (const std::int16_t i : rowsUpTo(v.CategoryCount)) {
+        f.Unload("lblCat", i);
+        f.Unload("lineCat", i);
     }
     f.timerMatch().setEnabled(false);
     f.lblMatchTimer().setCaption(matchDurationText(v));

@@ -1,37 +1,26 @@
 #include "settings/Appearance.h"
 
 #include <cstdint>
-#include <vector>
 
 #include "clock/MatchClock.h"
 #include "platform/Numbers.h"
 #include "state/Program.h"
+#include "state/RowRange.h"
 #include "state/TimeText.h"
 #include "timers/Countdown.h"
 
 namespace brelk {
 
-namespace {
-
-// Row numbers 1 to count, counted so that a full list of 32767 rows ends.
-std::vector<std::int16_t> rowNumbers(std::int16_t count) {
-    std::vector<std::int16_t> rows;
-    for (int n = 1; n <= count; ++n) rows.push_back(static_cast<std::int16_t>(n));
-    return rows;
-}
-
-}  // namespace
-
 void ChangeFormColor(Program& p) { p.frmMain.self().setNumber(Prop::BackColor, p.vars.FormColor); }
 
 void ChangeListColor(Program& p) {
-    for (const std::int16_t i : rowNumbers(p.vars.ItemCount))
+    for (const std::int16_t i : rowsUpTo(p.vars.ItemCount))
         p.frmMain.lblFond(i).setNumber(Prop::BackColor, i % 2 == 0 ? p.vars.ListColor1 : p.vars.ListColor2);
 }
 
 void ItemBackground(Program& p, bool test) {
     ChangeListColor(p);
-    for (const std::int16_t i : rowNumbers(p.vars.ItemCount))
+    for (const std::int16_t i : rowsUpTo(p.vars.ItemCount))
         p.frmMain.lblFond(i).setNumber(Prop::BackStyle, test ? 1 : 0);
 }
 
@@ -43,7 +32,7 @@ void ChangeMapNameColor(Program& p) {
 void ChangeTimerColor(Program& p) {
     auto& f = p.frmMain;
     auto& v = p.vars;
-    for (const std::int16_t i : rowNumbers(v.ItemCount)) {
+    for (const std::int16_t i : rowsUpTo(v.ItemCount)) {
         if (!isCompleteRow(p, i)) continue;  // a half-made row keeps showing only its background
         // A row held by a pause still counts as in use.
         const bool active = f.timerItem(i).enabled() || f.lblTimer(i).caption() != "00:00";
@@ -57,7 +46,7 @@ void ChangeTimerColor(Program& p) {
 }
 
 void ChangeCategoryColor(Program& p) {
-    for (const std::int16_t i : rowNumbers(p.vars.CategoryCount)) {
+    for (const std::int16_t i : rowsUpTo(p.vars.CategoryCount)) {
         p.frmMain.lblCat(i).setNumber(Prop::ForeColor, p.vars.CategoryColor);
         p.frmMain.lineCat(i).setNumber(Prop::BorderColor, p.vars.CategoryColor);
         p.frmMain.lblCat(i).setFlag(Prop::FontBold, num::isTrue(p.vars.CategoryBold));
