@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "FormWidget.h"
+#include "platform/Dialogs.h"
+#include "platform/Platform.h"
+
+namespace brelk::view {
+
+// The program's modal interactions as native Qt dialogs, above the main
+// window. Each runs its own event loop, so timers go on behind it.
+class QtDialogs : public Dialogs {
+public:
+    explicit QtDialogs(Guard guard) : guard_(std::move(guard)) {}
+    void setParentWindow(QWidget* parent) { parent_ = parent; }
+
+    int msgBox(const std::string& prompt, int style, const std::string& title) override;
+    std::string inputBox(const std::string& prompt, const std::string& title,
+                         const std::string& defaultText) override;
+    std::optional<OpenFileResult> openFile(const OpenFileRequest& request) override;
+    std::optional<std::int32_t> chooseColor(std::int32_t start) override;
+    Control* popupMenu(Form& form, Control& menu) override;
+    void showModal(Form& form) override;
+
+private:
+    Guard guard_;
+    QPointer<QWidget> parent_;
+};
+
+// Stay-on-top and external commands for the Qt windows.
+class QtWindowSystem : public WindowSystem {
+public:
+    void setMainWindow(QWidget* window) { window_ = window; }
+    void setTopmost(Form& form, bool topmost) override;
+    void shell(const std::string& command) override;
+    bool topmost() const { return topmost_; }
+
+private:
+    QPointer<QWidget> window_;
+    bool topmost_ = false;
+};
+
+}  // namespace brelk::view

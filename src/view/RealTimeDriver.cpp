@@ -1,0 +1,45 @@
+#include "RealTimeDriver.h"
+
+#include <algorithm>
+
+#include "platform/TimerScheduler.h"
+
+namespace brelk::view {
+
+RealTimeDriver::RealTimeDriver(TimerScheduler& scheduler, Guard guard, QObject* parent)
+    : QObject(parent), scheduler_(scheduler), guard_(std::move(guard)) {
+    timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
+    connect(&timer_, &QTimer::timeout, this, &RealTimeDriver::wake);
+}
+
+void RealTimeDriver::start() {
+    base_ = scheduler_.now();
+    elapsed_.start();
+    running_ = true;
+    scheduler_.setChangeListener([this] { rearm(); });
+    rearm();
+}
+
+std::int64_t RealTimeDriver::nowMs() const { return base_ + elapsed_.nsecsElapsed() / 1000000; }
+
+void RealTimeDriver::rearm() {
+    if (!running_) return;
+    const auto due = scheduler_.nextDue();
+    if (!due) {
+        timer_.stop();
+        return;
+    }
+    timer_.start(static_cast<int>(std::clamp<std::int64_t>(*due - nowMs(), 0, 1 << 30)));
+}
+
+void RealTimeDriver::wake() {
+    const auto due = scheduler_.nextDue();
+    const std::int64_t nowUs = base_ * 1000 + elapsed_.nsecsElapsed() / 1000;
+    if (due && onWake && nowUs >= *due * 1000) onWake(nowUs - *due * 1000);
+    const std::int64_t now = nowMs();
+    guard_([&] { scheduler_.advanceTo(now); });
+    rearm();
+}
+
+}  // namespace brelk::view

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QRectF>
+
+namespace brelk {
+class Control;
+}
+
+namespace brelk::view {
+
+// The model measures in twips; the window shows 15 twips per logical pixel,
+// and Qt's device pixel ratio keeps that crisp on dense screens.
+constexpr double kTwipsPerPixel = 15.0;
+
+inline double toPixels(double twips) { return twips / kTwipsPerPixel; }
+inline double toTwips(double pixels) { return pixels * kTwipsPerPixel; }
+
+// 0x00BBGGRR as the model stores colours.
+inline QColor toColor(double value) {
+    const auto v = static_cast<unsigned long>(value < 0 ? 0 : value);
+    return QColor(static_cast<int>(v & 0xFF), static_cast<int>((v >> 8) & 0xFF), static_cast<int>((v >> 16) & 0xFF));
+}
+
+// The control's font: the metric-compatible families this system has.
+QFont fontOf(const Control& c);
+
+// A caption as shown: with mnemonics on, "&x" marks x and "&&" is one "&".
+QString displayText(const Control& c);
+
+}  // namespace brelk::view
