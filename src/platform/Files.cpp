@@ -19,35 +19,50 @@ namespace fs = std::filesystem;
 
 namespace brelk::files {
 
-void LineReader::open(const std::string& path) {
-    if (open_) raise(err::FileAlreadyOpen);
-    // Only a regular file is a text file: a directory, a device or a named
-    // pipe is refused at once. Opening without blocking keeps a pipe with no
-    // writer from holding the program up.
-    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (fd < 0) {
-        if (errno == ENOENT || errno == ENOTDIR) raise(err::FileNotFound);
-        raise(err::PathNotFound, "Path/File access error");
+namespace {
+
+// Closes a descriptor on every way out, an allocation failure included.
+class Descriptor {
+public:
+    explicit Descriptor(int fd) : fd_(fd) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (fd_ >= 0) ::close(fd_);
     }
+    int get() const { return fd_; }
+
+private:
+    int fd_;
+};
+
+}  // namespace
+
+ReadStatus readRegularFile(const std::string& path, std::string& bytes) {
+    bytes.clear();
+    const Descriptor fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (fd.get() < 0) return errno == ENOENT || errno == ENOTDIR ? ReadStatus::Missing : ReadStatus::Failed;
     struct stat st {};
-    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-        ::close(fd);
-        raise(err::FileNotFound);
-    }
-    std::string bytes;
+    if (::fstat(fd.get(), &st) != 0) return ReadStatus::Failed;
+    if (!S_ISREG(st.st_mode)) return ReadStatus::NotAFile;
     char buf[65536];
     for (;;) {
-        const ssize_t n = ::read(fd, buf, sizeof buf);
-        if (n > 0) {
-            bytes.append(buf, static_cast<std::size_t>(n));
-        } else if (n == 0) {
-            break;
-        } else if (errno != EINTR) {
-            ::close(fd);
-            raise(err::PathNotFound, "Path/File access error");
-        }
+        const ssize_t n = ::read(fd.get(), buf, sizeof buf);
+        if (n > 0) bytes.append(buf, static_cast<std::size_t>(n));
+        else if (n == 0) return ReadStatus::Ok;
+        else if (errno != EINTR) return ReadStatus::Failed;
     }
-    ::close(fd);
+}
+
+void LineReader::open(const std::string& path) {
+    if (open_) raise(err::FileAlreadyOpen);
+    std::string bytes;
+    switch (readRegularFile(path, bytes)) {
+    case ReadStatus::Ok: break;
+    case ReadStatus::Missing:
+    case ReadStatus::NotAFile: raise(err::FileNotFound);
+    case ReadStatus::Failed: raise(err::PathNotFound, "Path/File access error");
+    }
     bytes_ = std::move(bytes);
     pos_ = 0;
     open_ = true;
@@ -127,6 +142,19 @@ std::string windows1252ToUtf8(const std::string& bytes) {
         }
     }
     return out;
+}
+
+std::size_t utf8PrefixBytes(std::string_view text, std::size_t chars) {
+    const auto continuation = [&](std::size_t i) {
+        return i < text.size() && (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80;
+    };
+    std::size_t bytes = 0;
+    for (std::size_t n = 0; n < chars && bytes < text.size(); ++n) {
+        const auto lead = static_cast<unsigned char>(text[bytes++]);
+        const int extra = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0 ? 1 : 0;
+        for (int k = 0; k < extra && continuation(bytes); ++k) ++bytes;
+    }
+    return bytes;
 }
 
 bool matchesPattern(const std::string& name, const std::string& pattern) {

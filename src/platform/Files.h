@@ -2,9 +2,19 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace brelk::files {
+
+// How reading a whole file ended.
+enum class ReadStatus { Ok, Missing, NotAFile, Failed };
+
+// The whole of a regular file into `bytes`. Only a regular file is read: a
+// directory, a device or a named pipe is NotAFile at once, and opening
+// without blocking keeps a pipe with no writer from holding the program up.
+// Missing is a path that names nothing; Failed any other open or read error.
+ReadStatus readRegularFile(const std::string& path, std::string& bytes);
 
 // A text file opened for reading by lines. A line ends at CR LF or at a lone
 // CR; a lone LF is part of the line. The file is read whole when opened, and
@@ -12,8 +22,8 @@ namespace brelk::files {
 // byte sequence reads as text.
 class LineReader {
 public:
-    // Raises error 53 when the file is missing, 75 style errors when it
-    // cannot be read.
+    // Raises error 53 when the file is missing or is no regular file, 76 when
+    // it cannot be opened or read.
     void open(const std::string& path);
     bool isOpen() const { return open_; }
     bool eof() const { return pos_ >= bytes_.size(); }
@@ -31,6 +41,9 @@ private:
 // Text of 8-bit bytes: kept when valid UTF-8, else decoded as Windows-1252.
 bool isValidUtf8(const std::string& bytes);
 std::string windows1252ToUtf8(const std::string& bytes);
+// Bytes taken by the first `chars` characters of UTF-8 text (all of it when
+// shorter); a byte that starts no valid sequence counts as one character.
+std::size_t utf8PrefixBytes(std::string_view text, std::size_t chars);
 
 // Directory listing by pattern, in the order the file system gives.
 class DirLister {

@@ -7,8 +7,11 @@
 #include <cerrno>
 #include <cstddef>
 #include <filesystem>
+#include <new>
 #include <optional>
 #include <vector>
+
+#include "platform/Files.h"
 
 namespace brelk::ini {
 
@@ -16,8 +19,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A value reads back as at most this many bytes, as from a buffer of 255 with
-// room for the terminating NUL.
+// A value reads back as at most this many characters, as from a buffer of
+// 255 with room for the terminating NUL.
 constexpr std::size_t kMaxValueLength = 254;
 constexpr std::string_view kLineEnd = "\r\n";
 // Name attempts for a temporary file before giving up.
@@ -116,27 +119,8 @@ std::string_view lineText(std::string_view text, const Line& line) {
     return text.substr(line.begin, line.end - line.begin);
 }
 
-// The whole of a regular file; false when it cannot be opened or read.
-// Opening without blocking keeps a named pipe in its place from hanging us.
 bool readWhole(const std::string& path, std::string& out) {
-    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (fd < 0) return false;
-    struct stat st {};
-    bool ok = ::fstat(fd, &st) == 0 && S_ISREG(st.st_mode);
-    out.clear();
-    char buf[65536];
-    while (ok) {
-        const ssize_t n = ::read(fd, buf, sizeof buf);
-        if (n > 0) {
-            out.append(buf, static_cast<std::size_t>(n));
-        } else if (n == 0) {
-            break;
-        } else if (errno != EINTR) {
-            ok = false;
-        }
-    }
-    ::close(fd);
-    return ok;
+    return files::readRegularFile(path, out) == files::ReadStatus::Ok;
 }
 
 bool writeWhole(int fd, std::string_view bytes) {
@@ -203,7 +187,7 @@ std::string profilePath(const std::string& dir, const std::string& exeName, cons
     return dir + "/" + std::string(trimBlanks(iniFile));
 }
 
-std::string readValue(const std::string& path, std::string_view section, std::string_view key) {
+std::string readValue(const std::string& path, std::string_view section, std::string_view key) try {
     if (key.empty()) return {};
     std::string text;
     if (!readWhole(path, text)) return {};
@@ -213,10 +197,13 @@ std::string readValue(const std::string& path, std::string_view section, std::st
     std::string_view value = parseLine(lineText(text, lines[*at.key])).value;
     if (value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.back() == value.front())
         value = value.substr(1, value.size() - 2);
-    return std::string(value.substr(0, kMaxValueLength));
+    return std::string(value.substr(0, files::utf8PrefixBytes(value, kMaxValueLength)));
+} catch (const std::bad_alloc&) {
+    return {};  // a file too big for memory reads as an empty one
 }
 
-bool writeValue(const std::string& path, std::string_view section, std::string_view key, std::string_view value) {
+bool writeValue(const std::string& path, std::string_view section, std::string_view key,
+                std::string_view value) try {
     // A line break would split the line and damage the file's structure.
     if (key.empty() || hasLineBreak(section) || hasLineBreak(key) || hasLineBreak(value)) return false;
     value = trimBlanks(value);
@@ -238,6 +225,8 @@ bool writeValue(const std::string& path, std::string_view section, std::string_v
         return false;
     }
     return replaceFile(target, withValue(old, section, key, value));
+} catch (const std::bad_alloc&) {
+    return false;  // a file too big for memory is left as it is
 }
 
 bool replaceFile(const std::string& path, std::string_view bytes) {

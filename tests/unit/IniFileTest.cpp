@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -16,6 +17,7 @@
 #include <thread>
 #include <vector>
 
+#include "MemoryCap.h"
 #include "settings/IniFile.h"
 
 using namespace brelk;
@@ -130,13 +132,19 @@ TEST_F(IniRead, FindsTheFirstMatchingSectionAndKey) {
     }
 }
 
-TEST_F(IniRead, LongValueIsCutTo254Bytes) {
+TEST_F(IniRead, LongValueIsCutTo254Characters) {
     std::string value;
     for (int i = 0; i < 300; ++i) value += static_cast<char>('a' + i % 26);
     const std::string path = put("p.ini", "[A]\r\nk=" + value + "\r\n");
     EXPECT_EQ(ini::readValue(path, "A", "k"), value.substr(0, 254));
     put("p.ini", "[A]\r\nk=" + value.substr(0, 254) + "\r\n");
     EXPECT_EQ(ini::readValue(path, "A", "k"), value.substr(0, 254));
+
+    // Letters of two and three bytes are counted whole and never split.
+    std::string accents;
+    for (int i = 0; i < 300; ++i) accents += i % 2 ? "\xC3\xA9" : "\xE2\x82\xAC";
+    put("p.ini", "[A]\r\nk=" + accents + "\r\n");
+    EXPECT_EQ(ini::readValue(path, "A", "k"), accents.substr(0, 127 * 5));
 }
 
 TEST_F(IniRead, MissingOrUnopenableFilesReadAsEmpty) {
@@ -155,6 +163,21 @@ TEST_F(IniRead, BinaryJunkNeitherCrashesNorHidesALaterSection) {
     EXPECT_EQ(ini::readValue(path, "Options", "ListColor"), "");
     put("p.ini", junk + "\r\n[Options]\r\nListColor=12\r\n");
     EXPECT_EQ(ini::readValue(path, "Options", "ListColor"), "12");
+}
+
+TEST_F(IniRead, AFileTooBigForMemoryReadsAsEmptyAndIsNotWritten) {
+    if (!brelk::testing::canCapMemory()) GTEST_SKIP() << "no /proc here";
+    // A sparse gigabyte, far more than the capped child may hold.
+    const std::string path = pathOf("p.ini");
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    ASSERT_GE(fd, 0);
+    ASSERT_EQ(::ftruncate(fd, off_t{1} << 30), 0);
+    ::close(fd);
+    EXPECT_TRUE(brelk::testing::holdsWithMemoryCap([&] {
+        return ini::readValue(path, "A", "k").empty() && !ini::writeValue(path, "A", "k", "1");
+    }));
+    EXPECT_EQ(fs::file_size(path), std::uintmax_t{1} << 30);
+    EXPECT_EQ(entries(), std::set<std::string>{"p.ini"});
 }
 
 // ---- writing ---------------------------------------------------------------
