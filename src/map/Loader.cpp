@@ -1,6 +1,7 @@
 #include "map/Loader.h"
 
 #include <cstdint>
+#include <exception>
 #include <string>
 
 #include "clock/MatchClock.h"
@@ -25,14 +26,9 @@ std::string withoutTxt(std::string name) {
 // The line as the error message shows it: a line of a binary or runaway file
 // is cut so the box stays readable.
 std::string shownLine(const std::string& line) {
-    constexpr int kMaxShown = 500;
-    if (num::charCount(line) <= kMaxShown) return line;
-    std::size_t bytes = 0;
-    for (int chars = 0; bytes < line.size() && chars < kMaxShown; ++chars) {
-        ++bytes;
-        while (bytes < line.size() && (static_cast<unsigned char>(line[bytes]) & 0xC0) == 0x80) ++bytes;
-    }
-    return line.substr(0, bytes) + "...";
+    constexpr std::size_t kMaxShown = 500;
+    const std::size_t bytes = files::utf8PrefixBytes(line, kMaxShown);
+    return bytes < line.size() ? line.substr(0, bytes) + "..." : line;
 }
 
 }  // namespace
@@ -66,7 +62,8 @@ void mnuLoad_Click(Program& p) {
             else AddItem(p, line);
         }
         file.close();
-    } catch (const RuntimeError&) {
+    } catch (const std::exception&) {
+        // Any failure ends the load the same way, a file too big for memory too.
         p.MsgBox("An error occured when reading file (wrong file format ?)\r\nFailed while reading line " +
                      num::numberText(LineNumber) + " :\r\n" + shownLine(line),
                  msgbox::Critical, "WTF ?!");
