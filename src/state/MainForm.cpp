@@ -69,7 +69,9 @@ MainForm::MainForm(TimerScheduler& timers) : Form("frmMain", timers) {
         name.setNumber(Prop::ForeColor, i == 0 ? 0x00000040 : 0x000000C0);
         font(name, "MS Sans Serif", 9.75, false);
         name.setNumber(Prop::Alignment, align::Center);
-        name.set(Prop::ToolTipText, "Double-Click to load a map");
+        // Only the name itself tells what a double click does; an "&" shows
+        // as itself there and differently in the shadow.
+        if (i == 1) name.set(Prop::ToolTipText, "Double-Click to load a map");
         name.setFlag(Prop::UseMnemonic, i == 0);
     }
 
