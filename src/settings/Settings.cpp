@@ -59,6 +59,11 @@ double readColour(const std::string& text) {
     return std::clamp(num::roundHalfEven(num::leadingValue(text)), 0.0, kMaxColour);
 }
 
+double readPosition(const std::string& text) {
+    // A position beyond what a window coordinate holds stays at the limit.
+    return std::clamp(num::roundHalfEven(num::leadingValue(text)), -2147483648.0, 2147483647.0);
+}
+
 std::string formatValue(KeyKind kind, double value) {
     switch (kind) {
     case KeyKind::Flag: return value != 0 ? "True" : "False";
@@ -86,8 +91,10 @@ bool readSettings(Program& p, Source source) {
             if (auto n = readInteger(text)) value = Value(*n);
             break;
         case KeyKind::Colour:
-        case KeyKind::Position:
             value = Value(readColour(text));
+            break;
+        case KeyKind::Position:
+            value = Value(readPosition(text));
             break;
         case KeyKind::Text:
             value = Value(text);

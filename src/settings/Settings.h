@@ -28,6 +28,7 @@ void WriteIniFile(Program& p, const std::string& IniFile);
 std::optional<double> readFlag(const std::string& text);
 std::optional<double> readInteger(const std::string& text);
 double readColour(const std::string& text);
+double readPosition(const std::string& text);
 // The text a value of this kind is written as.
 std::string formatValue(KeyKind kind, double value);
 

@@ -1,6 +1,6 @@
 #include "state/Lifecycle.h"
 
-#include <algorithm>
+#include <cstdint>
 #include <string>
 
 #include "map/Loader.h"
@@ -16,9 +16,8 @@ namespace brelk {
 
 namespace {
 
-std::int32_t readPosition(Program& p, const char* key) {
-    const double v = num::roundHalfEven(num::leadingValue(ReadIniValue(p, "Form", key, "")));
-    return static_cast<std::int32_t>(std::clamp(v, -2147483648.0, 2147483647.0));
+std::int32_t positionOf(Program& p, const char* key) {
+    return static_cast<std::int32_t>(readPosition(ReadIniValue(p, "Form", key, "")));
 }
 
 // A usage counter stops at its largest value instead of failing.
@@ -37,8 +36,8 @@ void Form_Load(Program& p) {
     const bool firstStart = !profileExists(p);
     if (firstStart) writeBuiltInProfile(p);
 
-    v.PosX = readPosition(p, "PosX");
-    v.PosY = readPosition(p, "PosY");
+    v.PosX = positionOf(p, "PosX");
+    v.PosY = positionOf(p, "PosY");
     // A missing or unreadable flag or counter takes its built-in value.
     v.OnTop = static_cast<std::int16_t>(readFlag(ReadIniValue(p, "Form", "OnTop", "")).value_or(num::True));
     p.frmMain.self().setNumber(Prop::Left, v.PosX);

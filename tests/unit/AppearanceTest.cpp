@@ -6,6 +6,7 @@
 
 #include "ProgramDoubles.h"
 #include "map/Layout.h"
+#include "platform/Errors.h"
 #include "settings/Appearance.h"
 
 using namespace brelk;
@@ -88,6 +89,21 @@ TEST_F(Look, ListStripsAlternateByRowNumberAndShowOnlyWhenOpaque) {
     ItemBackground(p(), true);
     EXPECT_EQ(f.lblFond(3).number(Prop::BackStyle), 1);
     EXPECT_EQ(f.lblFond(3).number(Prop::BackColor), 5005);
+}
+
+TEST_F(Look, AHalfMadeRowKeepsShowingOnlyItsBackground) {
+    // A map line whose seconds are no number leaves row 4 half-made, with the
+    // prototype's "01:44" in its hidden timer.
+    EXPECT_THROW(AddItem(p(), "Mega:soon"), RuntimeError);
+    ASSERT_EQ(p().vars.ItemCount, 4);
+    p().vars.ShowItemsTimers = -1;
+    ChangeTimerColor(p());
+    EXPECT_TRUE(p().frmMain.lblFond(4).visible());
+    EXPECT_FALSE(global(4).visible());
+    EXPECT_FALSE(timer(4).visible());
+    EXPECT_FALSE(item(4).visible());
+    // The complete rows around it take their look as usual.
+    EXPECT_EQ(timer(3).number(Prop::ForeColor), 11);
 }
 
 struct ClockCase {

@@ -202,6 +202,16 @@ TEST_F(Sets, EachKindOfValueReadsOrFailsAsItsKindSays) {
     }
 }
 
+TEST(Positions, ReadTheLeadingNumberRoundedHalfToEvenWithin32Bits) {
+    struct Case { const char* text; double expected; };
+    for (const Case c : {Case{"1234.5", 1234}, Case{"1235.5", 1236}, Case{"-300", -300}, Case{" 12abc", 12},
+                         Case{"abc", 0}, Case{"", 0}, Case{"-30000.5", -30000}, Case{"1e12", 2147483647},
+                         Case{"-1e12", -2147483648.0}}) {
+        SCOPED_TRACE(c.text);
+        EXPECT_EQ(readPosition(c.text), c.expected);
+    }
+}
+
 // The program's own profile file where it cannot be written.
 struct ReadOnly : ProgramTest {};
 
