@@ -31,6 +31,29 @@ TEST_F(Life, OnlyAFlagOfExactlyTrueKeepsTheWindowOnTop) {
     EXPECT_FALSE(windows.topmostCalls.back());
 }
 
+TEST_F(Life, TheStartIsCountedAndTheWindowPlacedBeforeTheSettingsAreRead) {
+    write("Brelk.ini",
+          "[Form]\r\nPosX=321\r\nPosY=654\r\nOnTop=False\r\n[Stats]\r\nLaunched=7\r\n"
+          "[Options]\r\nListColor=maybe\r\n");
+    // What stands when the settings read stops at its bad first value.
+    std::string fileThen;
+    double leftThen = 0;
+    std::size_t topmostCallsThen = 0;
+    dialogs.onBox = [&](const brelk::testing::ShownBox&) {
+        fileThen = read("Brelk.ini");
+        leftThen = p().frmMain.self().number(Prop::Left);
+        topmostCallsThen = windows.topmostCalls.size();
+    };
+    p().start();
+    ASSERT_EQ(dialogs.boxes.size(), 1u);
+    EXPECT_NE(fileThen.find("Launched=8"), std::string::npos) << fileThen;
+    EXPECT_EQ(leftThen, 321);
+    EXPECT_EQ(topmostCallsThen, 1u);
+    // Then the appearance and the empty list.
+    EXPECT_EQ(p().frmMain.self().number(Prop::Height), 700);
+    EXPECT_EQ(p().vars.MatchState, "not started");
+}
+
 TEST_F(Life, UnloadingTheWindowStoresEverythingAndTheTimedItemsThenEnds) {
     write("Brelk.ini",
           "[Stats]\r\nTimedItems=3\r\nLaunched=10\r\n[Form]\r\nPosX=1\r\nPosY=2\r\nOnTop=True\r\n");

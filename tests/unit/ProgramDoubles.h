@@ -10,6 +10,7 @@
 #include <deque>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <optional>
@@ -36,8 +37,12 @@ public:
     std::deque<std::optional<std::string>> openAnswers;
     std::string dir;
 
+    // Called as each message box shows, to look at the program at that moment.
+    std::function<void(const ShownBox&)> onBox;
+
     int msgBox(const std::string& prompt, int style, const std::string& title) override {
         boxes.push_back({prompt, style, title});
+        if (onBox) onBox(boxes.back());
         return msgbox::Ok;
     }
     std::string inputBox(const std::string&, const std::string&, const std::string&) override { return ""; }
