@@ -1,6 +1,8 @@
 #include "clock/MatchClock.h"
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 #include "platform/Errors.h"
 #include "platform/Numbers.h"
@@ -13,24 +15,39 @@ namespace brelk {
 
 namespace {
 
-// The clock holds whole seconds in 16 bits; a reading that would leave that
-// range stays at its limit, and counting up ends the match there.
-std::int16_t clampSeconds(double s) {
-    return static_cast<std::int16_t>(std::clamp(s, -32768.0, 32767.0));
+constexpr const char* kStandardLength = "20:00";
+
+// Seconds of a time text, or nothing when it is no time text.
+std::optional<double> timeSeconds(const std::string& text) {
+    try {
+        const double s = Secondes(text);
+        if (std::isnan(s)) return std::nullopt;
+        return s;
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
 }
 
 }  // namespace
 
 std::string matchDurationText(const ModVars& v) {
-    try {
-        Secondes(v.MatchDuration);
-        return v.MatchDuration;
-    } catch (const RuntimeError&) {
-        return "20:00";
-    }
+    const auto length = timeSeconds(v.MatchDuration);
+    if (!length) return kStandardLength;
+    const double whole = std::clamp(num::roundHalfEven(*length), 0.0, kLargestReading);
+    return whole == *length ? v.MatchDuration : Minutes(static_cast<std::int16_t>(whole));
 }
 
 double matchDurationSeconds(const ModVars& v) { return Secondes(matchDurationText(v)); }
+
+double clockReading(Program& p) {
+    if (const auto reading = timeSeconds(p.frmMain.lblMatchTimer().caption())) return num::roundHalfEven(*reading);
+    return num::isTrue(p.vars.MatchTimerReverse) ? matchDurationSeconds(p.vars) : 0;
+}
+
+void showReading(Program& p, double seconds) {
+    const double held = std::clamp(seconds, -32768.0, kLargestReading);
+    p.frmMain.lblMatchTimer().setCaption(Minutes(static_cast<std::int16_t>(held)));
+}
 
 void StartStopGlobalTimer(Program& p) {
     auto& f = p.frmMain;
@@ -69,19 +86,21 @@ void StartStopGlobalTimer(Program& p) {
 void timerMatch_Timer(Program& p) {
     auto& v = p.vars;
     Control& clock = p.frmMain.lblMatchTimer();
-    const double reading = Secondes(clock.caption());
+    const double reading = clockReading(p);
     if (num::isTrue(v.MatchTimerReverse)) {
-        // Counting down the reading stops at zero, also for a match of no length.
-        clock.setCaption(Minutes(clampSeconds(std::max(reading - 1, 0.0))));
-        const double now = Secondes(clock.caption());
+        // Counting down the reading stops at 00:00, also for a match of no length.
+        showReading(p, std::max(reading - 1, 0.0));
+        const double now = clockReading(p);
         if (now <= 60) clock.setNumber(Prop::ForeColor, v.LastMinuteMatchTimerColor);
         if (now <= 0) EndOfMatch(p);
     } else {
-        const double duration = matchDurationSeconds(v);
-        clock.setCaption(Minutes(clampSeconds(reading + 1)));
-        const double now = Secondes(clock.caption());
-        if (now > duration - 60) clock.setNumber(Prop::ForeColor, v.LastMinuteMatchTimerColor);
-        if (now >= duration || now >= 32767) EndOfMatch(p);
+        // The length is at most the largest reading, where counting up stays:
+        // a match always ends.
+        const double length = matchDurationSeconds(v);
+        showReading(p, reading + 1);
+        const double now = clockReading(p);
+        if (now > length - 60) clock.setNumber(Prop::ForeColor, v.LastMinuteMatchTimerColor);
+        if (now >= length) EndOfMatch(p);
     }
 }
 

@@ -1,25 +1,19 @@
 #include "clock/TunePanel.h"
 
-#include <algorithm>
-
+#include "clock/MatchClock.h"
 #include "state/Program.h"
-#include "state/TimeText.h"
 
 namespace brelk {
 
 namespace {
 
 // Adds `step` seconds; the reading stops at the largest value it can hold.
-void tuneUp(Program& p, int step) {
-    Control& clock = p.frmMain.lblMatchTimer();
-    const double sum = std::min(Secondes(clock.caption()) + step, 32767.0);
-    clock.setCaption(Minutes(static_cast<std::int16_t>(sum)));
-}
+void tuneUp(Program& p, int step) { showReading(p, clockReading(p) + step); }
 
+// Takes `step` seconds off, only when the reading stays above 00:00.
 void tuneDown(Program& p, int step) {
-    Control& clock = p.frmMain.lblMatchTimer();
-    const double difference = Secondes(clock.caption()) - step;
-    if (difference > 0) clock.setCaption(Minutes(static_cast<std::int16_t>(std::min(difference, 32767.0))));
+    const double difference = clockReading(p) - step;
+    if (difference > 0) showReading(p, difference);
 }
 
 }  // namespace

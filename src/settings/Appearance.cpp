@@ -59,7 +59,7 @@ void ChangeGlobalTimerColor(Program& p) {
     if (v.MatchState == "paused") {
         colour = v.PausedMatchTimerColor;
     } else if (v.MatchState != "not started" && !v.MatchState.empty()) {
-        const double reading = Secondes(p.frmMain.lblMatchTimer().caption());
+        const double reading = clockReading(p);
         const bool lastMinute = num::isTrue(v.MatchTimerReverse) ? reading <= 60
                                                                   : reading > matchDurationSeconds(v) - 60;
         if (lastMinute) colour = v.LastMinuteMatchTimerColor;

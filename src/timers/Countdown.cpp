@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "clock/MatchClock.h"
 #include "platform/Dialogs.h"
 #include "platform/Numbers.h"
 #include "state/Program.h"
@@ -18,7 +19,7 @@ constexpr const char* kIdle = "00:00";
 // plus the delay when it counts up, minus the delay when it counts down,
 // kept within what a time text can show.
 std::string nextRespawnText(Program& p, double delay) {
-    const double clock = Secondes(p.frmMain.lblMatchTimer().caption());
+    const double clock = clockReading(p);
     const double value = num::isTrue(p.vars.MatchTimerReverse) ? clock - delay : clock + delay;
     const double rounded = std::clamp(num::roundHalfEven(value), -32768.0, 32767.0);
     return Minutes(static_cast<std::int16_t>(rounded));
