@@ -24,7 +24,9 @@ QString q(const std::string& s) { return QString::fromStdString(s); }
 int QtDialogs::msgBox(const std::string& prompt, int style, const std::string& title) {
     QMessageBox box(parent_);
     box.setWindowTitle(q(title));
-    box.setText(q(prompt).replace("\r\n", "\n"));
+    // Plain text: a map line quoted in a message is shown as it is.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(q(prompt).replace("\r\n", "\n").replace('\r', '\n'));
     const int icon = style & msgbox::IconMask;
     box.setIcon(icon == msgbox::Critical ? QMessageBox::Critical
                 : icon == msgbox::Exclamation ? QMessageBox::Warning
@@ -56,7 +58,8 @@ std::string QtDialogs::inputBox(const std::string& prompt, const std::string& ti
 }
 
 std::optional<OpenFileResult> QtDialogs::openFile(const OpenFileRequest& request) {
-    const QString filter = QString("Map files (%1);;All files (*)").arg(q(request.pattern));
+    // The pattern is the one filter: the folder opens showing the maps alone.
+    const QString filter = QString("Map files (%1)").arg(q(request.pattern));
     const QString path = QFileDialog::getOpenFileName(parent_, q(request.title), q(request.initDir), filter);
     if (path.isEmpty()) return std::nullopt;
     return OpenFileResult{path.toStdString(), QFileInfo(path).fileName().toStdString()};
@@ -77,7 +80,8 @@ Control* QtDialogs::popupMenu(Form& form, Control& menu) {
             popup.addSeparator();
             continue;
         }
-        QAction* action = popup.addAction(QString::fromStdString(c->caption()).replace("&&", "&"));
+        // "&" marks an entry's key, as in every menu.
+        QAction* action = popup.addAction(QString::fromStdString(c->caption()));
         action->setEnabled(c->enabled());
         entries.emplace_back(action, c);
     }
@@ -88,12 +92,12 @@ Control* QtDialogs::popupMenu(Form& form, Control& menu) {
 }
 
 void QtDialogs::showModal(Form& form) {
-    FormWidget window(form, guard_, nullptr);
+    FormView window(form, guard_);
     window.setWindowFlags(Qt::Dialog);
     window.setWindowModality(Qt::ApplicationModal);
     window.show();
     QEventLoop loop;
-    QObject::connect(&window, &FormWidget::closedByUser, &loop, &QEventLoop::quit);
+    QObject::connect(&window, &FormView::closedByUser, &loop, &QEventLoop::quit);
     // The form closes itself by unloading: watch for that.
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &loop, [&] {
@@ -106,13 +110,15 @@ void QtDialogs::showModal(Form& form) {
 void QtWindowSystem::setTopmost(Form&, bool topmost) {
     topmost_ = topmost;
     if (!window_) return;
+    if (window_->windowFlags().testFlag(Qt::WindowStaysOnTopHint) == topmost) return;
     const bool shown = window_->isVisible();
-    const QRect geometry = window_->geometry();
+    const QPoint place = window_->pos();
     window_->setWindowFlag(Qt::WindowStaysOnTopHint, topmost);
     // Changing the flags hides a window; show it again where it was.
     if (shown) {
-        window_->setGeometry(geometry);
+        window_->move(place);
         window_->show();
+        window_->raise();
     }
 }
 

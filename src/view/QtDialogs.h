@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "FormWidget.h"
+#include "FormView.h"
 #include "platform/Dialogs.h"
 #include "platform/Platform.h"
 

@@ -30,7 +30,9 @@ void RealTimeDriver::rearm() {
         timer_.stop();
         return;
     }
-    timer_.start(static_cast<int>(std::clamp<std::int64_t>(*due - nowMs(), 0, 1 << 30)));
+    // Rounded up to whole milliseconds, so the wake-up never comes early.
+    const std::int64_t waitUs = *due * 1000 - (base_ * 1000 + elapsed_.nsecsElapsed() / 1000);
+    timer_.start(static_cast<int>(std::clamp<std::int64_t>((waitUs + 999) / 1000, 0, 1 << 30)));
 }
 
 void RealTimeDriver::wake() {

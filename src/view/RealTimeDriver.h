@@ -7,7 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
-#include "FormWidget.h"
+#include "ViewContext.h"
 
 namespace brelk {
 class TimerScheduler;

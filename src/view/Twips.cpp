@@ -1,10 +1,17 @@
 #include "Twips.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/Control.h"
 
 namespace brelk::view {
+
+QRect pixelRect(double left, double top, double width, double height) {
+    const auto edge = [](double twips) { return static_cast<int>(std::lround(toPixels(twips))); };
+    const int x = edge(left), y = edge(top);
+    return QRect(x, y, std::max(0, edge(left + width) - x), std::max(0, edge(top + height) - y));
+}
 
 QFont fontOf(const Control& c) {
     QFont font;

@@ -2,7 +2,7 @@
 
 #include <QColor>
 #include <QFont>
-#include <QRectF>
+#include <QRect>
 
 namespace brelk {
 class Control;
@@ -17,9 +17,14 @@ constexpr double kTwipsPerPixel = 15.0;
 inline double toPixels(double twips) { return twips / kTwipsPerPixel; }
 inline double toTwips(double pixels) { return pixels * kTwipsPerPixel; }
 
+// A twip rectangle on the logical pixel grid. Edges are rounded, not sizes,
+// so controls that touch in twips touch on screen too.
+QRect pixelRect(double left, double top, double width, double height);
+
 // 0x00BBGGRR as the model stores colours.
 inline QColor toColor(double value) {
-    const auto v = static_cast<unsigned long>(value < 0 ? 0 : value);
+    // Anything out of range (or no number at all) is taken as black or white.
+    const auto v = static_cast<unsigned long>(value > 0 ? (value < 16777215.0 ? value : 16777215.0) : 0.0);
     return QColor(static_cast<int>(v & 0xFF), static_cast<int>((v >> 8) & 0xFF), static_cast<int>((v >> 16) & 0xFF));
 }
 

@@ -1,0 +1,50 @@
+#include "BrelkApp.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "MainWindow.h"
+#include "Twips.h"
+#include "state/Program.h"
+
+namespace brelk::view {
+
+AppInfo executableInfo() {
+    return AppInfo{QCoreApplication::applicationDirPath().toStdString(),
+                   QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString(), 1, 0, 0};
+}
+
+namespace {
+
+int screenWidthTwips() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? static_cast<int>(toTwips(screen->geometry().width())) : 19200;
+}
+
+}  // namespace
+
+BrelkApp::BrelkApp(AppInfo app) : dialogs_([this](const std::function<void()>& a) { return program_->guarded(a); }) {
+    const Guard guard = [this](const std::function<void()>& a) { return program_->guarded(a); };
+    services_ = std::make_unique<Services>(Services{clock_, dialogs_, windows_, std::move(app), screenWidthTwips()});
+    program_ = std::make_unique<Program>(*services_);
+    program_->setEndListener([] { QCoreApplication::quit(); });
+    // The window exists before the form loads, so that the position and the
+    // stay-on-top state read at start go straight to it.
+    window_ = createMainWindow(program_->frmMain, guard);
+    dialogs_.setParentWindow(window_.get());
+    windows_.setMainWindow(window_.get());
+    driver_ = std::make_unique<RealTimeDriver>(clock_, guard);
+}
+
+BrelkApp::~BrelkApp() = default;
+
+bool BrelkApp::start() {
+    if (!program_->guarded([&] { program_->start(); })) return false;
+    window_->show();
+    driver_->start();
+    return true;
+}
+
+}  // namespace brelk::view

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+
+#include "FormView.h"
+#include "QtDialogs.h"
+#include "RealTimeDriver.h"
+#include "platform/Platform.h"
+#include "platform/TimerScheduler.h"
+
+namespace brelk {
+class Program;
+}
+
+namespace brelk::view {
+
+// The executable's directory and name, the base of its profile file.
+AppInfo executableInfo();
+
+// The program on Qt: the platform services, the program, its main window
+// and the driver that moves its clock with real time.
+class BrelkApp {
+public:
+    explicit BrelkApp(AppInfo app);
+    ~BrelkApp();
+    BrelkApp(const BrelkApp&) = delete;
+    BrelkApp& operator=(const BrelkApp&) = delete;
+
+    // Opens the main window (its Load event) and starts the clock. False
+    // when the program ended while starting.
+    bool start();
+
+    Program& program() { return *program_; }
+    FormView& window() { return *window_; }
+
+private:
+    TimerScheduler clock_;
+    QtDialogs dialogs_;
+    QtWindowSystem windows_;
+    std::unique_ptr<Services> services_;
+    std::unique_ptr<Program> program_;
+    std::unique_ptr<FormView> window_;
+    std::unique_ptr<RealTimeDriver> driver_;
+};
+
+}  // namespace brelk::view

@@ -1,0 +1,371 @@
+#include "FormView.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+#include <vector>
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QTimer>
+#include <QWindow>
+
+#include "BoxView.h"
+#include "ButtonView.h"
+#include "EntryViews.h"
+#include "ImageView.h"
+#include "InputCodes.h"
+#include "LabelView.h"
+#include "LineView.h"
+#include "Twips.h"
+#include "platform/Events.h"
+
+namespace brelk::view {
+
+// The form's own surface inside the frame: its back colour, and the form's
+// mouse events wherever no control takes them. A left drag on it moves the
+// window.
+class FormClient : public QWidget {
+public:
+    explicit FormClient(FormView& view) : QWidget(&view), view_(view) {
+        setObjectName("client");
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        setMouseTracking(view.form().hasHandler(view.form().name(), Event::MouseMove));
+    }
+
+protected:
+    void paintEvent(QPaintEvent* e) override {
+        QPainter painter(this);
+        painter.fillRect(e->rect(), toColor(form().self().number(Prop::BackColor)));
+        view_.notePainted();
+    }
+
+    void mousePressEvent(QMouseEvent* e) override {
+        const int b = buttonCode(e->button());
+        if (b == 0) return;
+        if (b == button::Left) view_.beginMove(e);
+        raiseMouse(e, [&](Form& f, int shift, float x, float y) { f.mouseDown(f.self(), b, shift, x, y); });
+    }
+
+    void mouseMoveEvent(QMouseEvent* e) override {
+        if (view_.moving_) view_.continueMove(e);
+        const int held = buttonsHeld(e->buttons());
+        raiseMouse(e, [&](Form& f, int shift, float x, float y) { f.mouseMove(f.self(), held, shift, x, y); });
+    }
+
+    void mouseReleaseEvent(QMouseEvent* e) override {
+        const int b = buttonCode(e->button());
+        if (b == 0) return;
+        const bool moved = b == button::Left && view_.endMove();
+        const bool click = b == button::Left && !moved && !afterDoubleClick_ && rect().contains(e->position().toPoint());
+        if (b == button::Left) afterDoubleClick_ = false;
+        raiseMouse(e, [&](Form& f, int shift, float x, float y) {
+            f.mouseUp(f.self(), b, shift, x, y);
+            if (click) f.click(f.self());
+        });
+    }
+
+    void mouseDoubleClickEvent(QMouseEvent* e) override {
+        if (e->button() != Qt::LeftButton) return mousePressEvent(e);
+        afterDoubleClick_ = true;
+        view_.context_.run([&] { form().dblClick(form().self()); });
+    }
+
+private:
+    Form& form() const { return view_.form(); }
+
+    template <typename Raise>
+    void raiseMouse(QMouseEvent* e, Raise raise) {
+        const int shift = shiftState(e->modifiers());
+        const auto x = static_cast<float>(toTwips(e->position().x()));
+        const auto y = static_cast<float>(toTwips(e->position().y()));
+        view_.context_.run([&] { raise(form(), shift, x, y); });
+    }
+
+    FormView& view_;
+    bool afterDoubleClick_ = false;
+};
+
+namespace {
+
+int nestingDepth(const Control& c) {
+    int depth = 0;
+    for (const Control* box = c.container(); box; box = box->container()) ++depth;
+    return depth;
+}
+
+bool isContainer(ControlKind k) { return k == ControlKind::PictureBox || k == ControlKind::Frame; }
+
+}  // namespace
+
+FormView::FormView(Form& form, Guard guard, WindowFrame frame, QWidget* parent)
+    : QWidget(parent), context_{form, std::move(guard)}, frame_(frame), client_(new FormClient(*this)) {
+    setObjectName(QString::fromStdString(form.name()));
+    setWindowTitle(QString::fromStdString(form.self().caption()));
+    setAttribute(Qt::WA_OpaquePaintEvent, !frame_.isEmpty());
+    build();
+    applyWindowGeometry();
+    form.addObserver(this);
+}
+
+FormView::~FormView() {
+    form().removeObserver(this);
+    for (auto& [control, view] : views_) view->detach();
+}
+
+QWidget* FormView::widgetOf(const Control& c) const {
+    const auto it = views_.find(&c);
+    return it == views_.end() ? nullptr : it->second->widget();
+}
+
+QWidget* FormView::clientArea() const { return client_; }
+
+void FormView::build() {
+    // Containers before what they hold; among siblings, the stacking order.
+    std::vector<Control*> controls = form().controls();
+    std::stable_sort(controls.begin(), controls.end(), [](const Control* a, const Control* b) {
+        return std::make_tuple(nestingDepth(*a), isWindowedKind(a->kind()), a->zOrder()) <
+               std::make_tuple(nestingDepth(*b), isWindowedKind(b->kind()), b->zOrder());
+    });
+    for (Control* c : controls) createView(*c);
+    orderTabs();
+}
+
+ControlView* FormView::createView(Control& c) {
+    QWidget* parent = client_;
+    if (const Control* box = c.container()) {
+        const auto it = views_.find(box);
+        if (it != views_.end()) parent = it->second->childArea();
+    }
+    ControlView* view = nullptr;
+    switch (c.kind()) {
+    case ControlKind::Label: view = new LabelView(c, context_, parent); break;
+    case ControlKind::Image: view = new ImageView(c, context_, parent); break;
+    case ControlKind::Line: view = new LineView(c, context_, parent); break;
+    case ControlKind::CommandButton: view = new ButtonView(c, context_, parent); break;
+    case ControlKind::PictureBox:
+    case ControlKind::Frame: view = new BoxView(c, context_, parent); break;
+    case ControlKind::TextBox: view = new TextBoxView(c, context_, parent); break;
+    case ControlKind::OptionButton: view = new OptionView(c, context_, parent); break;
+    case ControlKind::ComboBox: view = new ComboView(c, context_, parent); break;
+    default: return nullptr;  // timers, menus and common dialogs are not drawn
+    }
+    view->widget()->setObjectName(QString::fromStdString(c.displayName()));
+    views_[&c] = view;
+    view->syncAll();
+    return view;
+}
+
+void FormView::removeView(Control& c) {
+    const auto it = views_.find(&c);
+    if (it == views_.end()) return;
+    ControlView* view = it->second;
+    views_.erase(it);
+    QWidget* w = view->widget();
+    // What a box holds goes with it.
+    if (isContainer(c.kind()))
+        for (auto inner = views_.begin(); inner != views_.end();) {
+            if (w->isAncestorOf(inner->second->widget())) {
+                inner->second->detach();
+                inner = views_.erase(inner);
+            } else {
+                ++inner;
+            }
+        }
+    view->detach();
+    w->hide();
+    // Later: the widget may be the one whose event unloaded its control.
+    w->deleteLater();
+}
+
+void FormView::stack(ControlView& view, bool toFront) {
+    QWidget* w = view.widget();
+    QWidget* parent = w->parentWidget();
+    if (!parent || !view.control()) return;
+    // Windowed controls lie at the top of their parent's stack: find the
+    // lowest of them, scanning down from the top.
+    QWidget* lowestWindowed = nullptr;
+    const QObjectList& siblings = parent->children();
+    for (auto it = siblings.crbegin(); it != siblings.crend(); ++it) {
+        auto* other = dynamic_cast<ControlView*>(*it);
+        if (!other || !other->control()) continue;
+        if (!isWindowedKind(other->control()->kind())) break;
+        if (other != &view) lowestWindowed = other->widget();
+    }
+    const bool windowed = isWindowedKind(view.control()->kind());
+    if (windowed && toFront) w->raise();
+    else if (!windowed && !toFront) w->lower();
+    // A label to the front goes just under the windowed controls; a button
+    // to the back just over the labels.
+    else if (lowestWindowed) w->stackUnder(lowestWindowed);
+    else w->raise();
+}
+
+void FormView::orderTabs() {
+    std::vector<std::pair<double, QWidget*>> order;
+    for (const auto& [control, view] : views_) {
+        QWidget* w = view->widget();
+        if ((w->focusPolicy() & Qt::TabFocus) && control->has(Prop::TabIndex))
+            order.emplace_back(control->number(Prop::TabIndex), w);
+    }
+    std::stable_sort(order.begin(), order.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1].second, order[i].second);
+}
+
+void FormView::controlLoaded(Control& c) {
+    ControlView* view = createView(c);
+    if (!view) return;
+    stack(*view, c.zOrder() > 0);
+    if (view->widget()->focusPolicy() & Qt::TabFocus) orderTabs();
+}
+
+void FormView::controlUnloading(Control& c) { removeView(c); }
+
+void FormView::propertyChanged(Control& c, Prop p) {
+    if (&c == &form().self()) return formChanged(p);
+    const auto it = views_.find(&c);
+    if (it == views_.end()) return;
+    it->second->sync(p);
+    if (p == Prop::TabIndex) orderTabs();
+}
+
+void FormView::zOrderChanged(Control& c) {
+    const auto it = views_.find(&c);
+    // The form sends a control to the back with a place below every other,
+    // to the front with one above.
+    if (it != views_.end()) stack(*it->second, c.zOrder() > 0);
+}
+
+void FormView::focusChanged(Control* now) {
+    if (!now) return;
+    const auto it = views_.find(now);
+    if (it == views_.end()) return;
+    QWidget* w = it->second->widget();
+    if (w->focusPolicy() != Qt::NoFocus && !w->hasFocus()) w->setFocus(Qt::OtherFocusReason);
+}
+
+void FormView::formChanged(Prop p) {
+    const Control& self = form().self();
+    switch (p) {
+    case Prop::Left:
+    case Prop::Top:
+    case Prop::Width:
+    case Prop::Height: applyWindowGeometry(); break;
+    case Prop::Caption:
+        setWindowTitle(QString::fromStdString(self.caption()));
+        update(frame_.captionRect(rect()));
+        break;
+    case Prop::BackColor: client_->update(); break;
+    case Prop::Visible: setVisible(self.visible()); break;
+    default: break;
+    }
+}
+
+void FormView::applyWindowGeometry() {
+    const Control& self = form().self();
+    const auto px = [](double twips) { return static_cast<int>(std::lround(toPixels(twips))); };
+    const QPoint place(px(self.number(Prop::Left)), px(self.number(Prop::Top)));
+    const QSize size(std::max(1, px(self.number(Prop::Width))), std::max(1, px(self.number(Prop::Height))));
+    if (!isWindow()) return setGeometry(QRect(place, size));
+    // The window is frameless: its geometry is the form's outer geometry,
+    // taken as it is, also beyond the screen's edge.
+    if (pos() != place) move(place);
+    if (this->size() != size) resize(size);
+}
+
+void FormView::resizeEvent(QResizeEvent*) { client_->setGeometry(rect().marginsRemoved(frame_.margins())); }
+
+void FormView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintWindowFrame(painter, rect(), frame_, windowTitle(), windowIcon(), palette());
+    notePainted();
+}
+
+void FormView::notePainted() {
+    if (painted_) return;
+    painted_ = true;
+    // After the whole window, children included, has been drawn.
+    QTimer::singleShot(0, this, [this] {
+        if (onFirstPaint) onFirstPaint();
+    });
+}
+
+void FormView::beginMove(QMouseEvent* e) {
+    if (!isWindow()) return;
+    // Where windows may not place themselves, the window system moves it.
+    if (QGuiApplication::platformName().startsWith("wayland") && windowHandle()) {
+        windowHandle()->startSystemMove();
+        return;
+    }
+    moving_ = true;
+    moved_ = false;
+    moveStart_ = e->globalPosition();
+    windowStart_ = pos();
+}
+
+void FormView::continueMove(QMouseEvent* e) {
+    if (!moving_) return;
+    const QPoint place = windowStart_ + (e->globalPosition() - moveStart_).toPoint();
+    if (place == pos()) return;
+    move(place);
+    moved_ = true;
+}
+
+bool FormView::endMove() {
+    if (!moving_) return false;
+    moving_ = false;
+    if (!moved_) return false;
+    // The form learns where the window is, so that the profile file keeps it.
+    const QPoint place = pos();
+    context_.run([&] {
+        form().self().setNumber(Prop::Left, toTwips(place.x()));
+        form().self().setNumber(Prop::Top, toTwips(place.y()));
+    });
+    return true;
+}
+
+void FormView::mousePressEvent(QMouseEvent* e) {
+    // The frame: the caption strip and the border move the window.
+    if (e->button() == Qt::LeftButton) beginMove(e);
+}
+
+void FormView::mouseMoveEvent(QMouseEvent* e) { continueMove(e); }
+
+void FormView::mouseReleaseEvent(QMouseEvent* e) {
+    if (e->button() == Qt::LeftButton) endMove();
+}
+
+void FormView::keyPressEvent(QKeyEvent* e) {
+    // Keys that no control used: Esc and Enter press the form's Cancel and
+    // Default buttons; Enter on a focused button presses that one.
+    switch (e->key()) {
+    case Qt::Key_Escape: context_.run([&] { form().pressCancel(); }); return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button && button->isEnabled()) {
+            button->click();
+            return;
+        }
+        context_.run([&] { form().pressDefault(); });
+        return;
+    default: QWidget::keyPressEvent(e);
+    }
+}
+
+void FormView::closeEvent(QCloseEvent* e) {
+    // Closed by the window system: the form ends as its Unload says.
+    if (form().hasHandler(form().name(), Event::Unload)) {
+        e->ignore();
+        context_.run([&] { form().raiseForm(Event::Unload); });
+        return;
+    }
+    emit closedByUser();
+    QWidget::closeEvent(e);
+}
+
+}  // namespace brelk::view

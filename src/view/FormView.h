@@ -1,0 +1,90 @@
+#pragma once
+
+#include <functional>
+#include <unordered_map>
+
+#include <QPoint>
+#include <QPointF>
+#include <QWidget>
+
+#include "ViewContext.h"
+#include "WindowFrame.h"
+#include "platform/Form.h"
+
+namespace brelk::view {
+
+class ControlView;
+class FormClient;
+
+// The window of one form: a top-level widget with one child widget for each
+// control that is drawn (labels, images, lines, buttons, boxes, entry
+// fields), created when the control is loaded and deleted when it is
+// unloaded. Containers are the parents of what they contain, and the
+// stacking order follows the form's. The window keeps no state of the
+// program: every widget shows what its control holds and follows each
+// change. A drag on the window's frame or on its background moves it; the
+// new position goes into the form's Left and Top when the drag ends.
+class FormView : public QWidget, private FormObserver {
+    Q_OBJECT
+public:
+    FormView(Form& form, Guard guard, WindowFrame frame = {}, QWidget* parent = nullptr);
+    ~FormView() override;
+
+    Form& form() const { return context_.form; }
+    const WindowFrame& frame() const { return frame_; }
+    // The widget that shows `c`, null when it has none (timers, menus, ...).
+    QWidget* widgetOf(const Control& c) const;
+    // The area inside the frame, where the form's controls sit.
+    QWidget* clientArea() const;
+
+    // Called once, when the window has been painted for the first time.
+    std::function<void()> onFirstPaint;
+
+signals:
+    // The window system closed a form that has no Unload handler.
+    void closedByUser();
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    friend class FormClient;
+
+    void controlLoaded(Control& c) override;
+    void controlUnloading(Control& c) override;
+    void propertyChanged(Control& c, Prop p) override;
+    void zOrderChanged(Control& c) override;
+    void focusChanged(Control* now) override;
+
+    void build();
+    ControlView* createView(Control& c);
+    void removeView(Control& c);
+    void stack(ControlView& view, bool toFront);
+    void orderTabs();
+    void applyWindowGeometry();
+    void formChanged(Prop p);
+    void notePainted();
+
+    // Moving the window by a drag.
+    void beginMove(QMouseEvent* e);
+    void continueMove(QMouseEvent* e);
+    bool endMove();
+
+    ViewContext context_;
+    WindowFrame frame_;
+    FormClient* client_;
+    std::unordered_map<const Control*, ControlView*> views_;
+    bool moving_ = false;
+    bool moved_ = false;
+    QPointF moveStart_;
+    QPoint windowStart_;
+    bool painted_ = false;
+};
+
+}  // namespace brelk::view

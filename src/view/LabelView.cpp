@@ -1,0 +1,60 @@
+#include "LabelView.h"
+
+#include <QPainter>
+
+#include "Twips.h"
+#include "platform/Form.h"
+
+namespace brelk::view {
+
+namespace {
+
+Qt::Alignment alignmentOf(const Control& c) {
+    switch (static_cast<int>(c.number(Prop::Alignment))) {
+    case align::Right: return Qt::AlignRight | Qt::AlignTop;
+    case align::Center: return Qt::AlignHCenter | Qt::AlignTop;
+    default: return Qt::AlignLeft | Qt::AlignTop;
+    }
+}
+
+}  // namespace
+
+LabelView::LabelView(Control& control, const ViewContext& context, QWidget* parent)
+    : QWidget(parent), ControlView(control, context), mouse_(*this) {
+    setAttribute(Qt::WA_NoMousePropagation);
+    // Only where the program listens to the moving pointer.
+    setMouseTracking(context.form.hasHandler(control.name(), Event::MouseMove));
+}
+
+void LabelView::apply(Prop p) {
+    if (p == Prop::BackStyle) setAttribute(Qt::WA_OpaquePaintEvent, control_->number(Prop::BackStyle) != 0);
+    switch (p) {
+    case Prop::Caption:
+    case Prop::ForeColor:
+    case Prop::BackColor:
+    case Prop::BackStyle:
+    case Prop::Alignment:
+    case Prop::UseMnemonic: update(); break;
+    default: break;
+    }
+}
+
+void LabelView::applyFont() {
+    font_ = fontOf(*control_);
+    update();
+}
+
+void LabelView::paintEvent(QPaintEvent*) {
+    if (!control_) return;
+    QPainter painter(this);
+    if (control_->number(Prop::BackStyle) != 0) painter.fillRect(rect(), toColor(control_->number(Prop::BackColor)));
+    const QString text = displayText(*control_);
+    if (text.isEmpty()) return;
+    painter.setFont(font_);
+    painter.setPen(toColor(control_->number(Prop::ForeColor)));
+    // Words that do not fit go to the next line, as on the labels this
+    // window was designed with; what falls outside the label is cut.
+    painter.drawText(rect(), static_cast<int>(alignmentOf(*control_)) | Qt::TextWordWrap, text);
+}
+
+}  // namespace brelk::view
