@@ -25,17 +25,19 @@ int screenWidthTwips() {
 
 }  // namespace
 
-BrelkApp::BrelkApp(AppInfo app) : dialogs_([this](const std::function<void()>& a) { return program_->guarded(a); }) {
-    const Guard guard = [this](const std::function<void()>& a) { return program_->guarded(a); };
+BrelkApp::BrelkApp(AppInfo app)
+    : dialogs_([this](const std::function<void()>& a) { return input_(a); }) {
+    const Guard program = [this](const std::function<void()>& a) { return program_->guarded(a); };
     services_ = std::make_unique<Services>(Services{clock_, dialogs_, windows_, std::move(app), screenWidthTwips()});
     program_ = std::make_unique<Program>(*services_);
     program_->setEndListener([] { QCoreApplication::quit(); });
+    driver_ = std::make_unique<RealTimeDriver>(clock_, program);
+    input_ = driver_->inputGuard(program);
     // The window exists before the form loads, so that the position and the
     // stay-on-top state read at start go straight to it.
-    window_ = createMainWindow(program_->frmMain, guard);
+    window_ = createMainWindow(program_->frmMain, input_);
     dialogs_.setParentWindow(window_.get());
     windows_.setMainWindow(window_.get());
-    driver_ = std::make_unique<RealTimeDriver>(clock_, guard);
 }
 
 BrelkApp::~BrelkApp() = default;

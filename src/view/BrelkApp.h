@@ -35,6 +35,7 @@ public:
 
 private:
     TimerScheduler clock_;
+    Guard input_;  // what the window's input runs through
     QtDialogs dialogs_;
     QtWindowSystem windows_;
     std::unique_ptr<Services> services_;

@@ -35,6 +35,19 @@ void RealTimeDriver::rearm() {
     timer_.start(static_cast<int>(std::clamp<std::int64_t>((waitUs + 999) / 1000, 0, 1 << 30)));
 }
 
+void RealTimeDriver::catchUp() {
+    if (running_) scheduler_.advanceTo(nowMs());
+}
+
+Guard RealTimeDriver::inputGuard(Guard guard) {
+    return [this, guard = std::move(guard)](const std::function<void()>& action) {
+        return guard([&] {
+            catchUp();
+            action();
+        });
+    };
+}
+
 void RealTimeDriver::wake() {
     const auto due = scheduler_.nextDue();
     const std::int64_t nowUs = base_ * 1000 + elapsed_.nsecsElapsed() / 1000;

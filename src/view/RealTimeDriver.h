@@ -27,6 +27,14 @@ public:
     // Starts following real time from the scheduler's present reading.
     void start();
 
+    // Brings the clock up to the present, firing the ticks due by now. Input
+    // must see the present time: a timer enabled by a click has its first
+    // tick one full Interval after the click, however long the clock stood
+    // still before. Runs inside the caller's guard.
+    void catchUp();
+    // `guard` with the clock brought up to the present before each input.
+    Guard inputGuard(Guard guard);
+
     // How late each wake-up came after the tick it was for, in microseconds.
     std::function<void(std::int64_t lateUs)> onWake;
 

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
@@ -37,8 +38,9 @@ void whenOpen(std::function<void(QWidget*)> check) {
 }  // namespace
 
 // The program's message boxes, popup menus and open dialog as Qt shows
-// them, and the clock going on behind a modal box.
-class QtDialogsTest : public QObject {
+// them, and the clock on real time: going on behind a modal box, and a
+// timer enabled by input ticking one full interval after it.
+class QtPlatformTest : public QObject {
     Q_OBJECT
 
     TimerScheduler clock_;
@@ -164,8 +166,34 @@ private slots:
         QVERIFY(ticksWhenOpen >= 0);
         QVERIFY2(ticks - ticksWhenOpen >= 5, qPrintable(QString::number(ticks - ticksWhenOpen)));
     }
+
+    void aTimerEnabledByInputTicksAFullIntervalAfterIt() {
+        // The clock stands still while no timer runs; a click half a second
+        // later enables a 200 ms timer, whose first tick comes 200 ms after
+        // the click and not at once.
+        const view::Guard plain = [](const std::function<void()>& a) { return a(), true; };
+        view::RealTimeDriver driver(clock_, plain);
+        const view::Guard input = driver.inputGuard(plain);
+        driver.start();
+        QTest::qWait(500);
+        Control& timer = form_->timerMatch();
+        timer.setNumber(Prop::Interval, 200);
+        QElapsedTimer sinceClick;
+        qint64 firstTickMs = -1;
+        form_->on("timerMatch", Event::Timer, [&](const EventArgs&) {
+            if (firstTickMs < 0) firstTickMs = sinceClick.elapsed();
+        });
+        input([&] {
+            sinceClick.start();
+            timer.setEnabled(true);
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(firstTickMs >= 0, 2000);
+        timer.setEnabled(false);
+        QVERIFY2(firstTickMs >= 195, qPrintable(QString::number(firstTickMs)));
+        QVERIFY2(firstTickMs < 400, qPrintable(QString::number(firstTickMs)));
+    }
 };
 
-static GuiTestRegistrar registrar([]() -> QObject* { return new QtDialogsTest; });
+static GuiTestRegistrar registrar([]() -> QObject* { return new QtPlatformTest; });
 
-#include "tst_dialogs.moc"
+#include "tst_platform.moc"
