@@ -30,7 +30,8 @@ BrelkApp::BrelkApp(AppInfo app)
     const Guard program = [this](const std::function<void()>& a) { return program_->guarded(a); };
     services_ = std::make_unique<Services>(Services{clock_, dialogs_, windows_, std::move(app), screenWidthTwips()});
     program_ = std::make_unique<Program>(*services_);
-    program_->setEndListener([] { QCoreApplication::quit(); });
+    // The end is at once: no window is asked whether it may close.
+    program_->setEndListener([] { QCoreApplication::exit(0); });
     driver_ = std::make_unique<RealTimeDriver>(clock_, program);
     input_ = driver_->inputGuard(program);
     // The window exists before the form loads, so that the position and the

@@ -358,11 +358,11 @@ void FormView::keyPressEvent(QKeyEvent* e) {
 }
 
 void FormView::closeEvent(QCloseEvent* e) {
-    // Closed by the window system: the form ends as its Unload says.
+    // Closed by the window system: the form ends as its Unload says. The
+    // window goes once the program has ended (also when it ended before).
     if (form().hasHandler(form().name(), Event::Unload)) {
-        e->ignore();
-        context_.run([&] { form().raiseForm(Event::Unload); });
-        return;
+        const bool going = context_.run([&] { form().raiseForm(Event::Unload); });
+        if (going) return e->ignore();
     }
     emit closedByUser();
     QWidget::closeEvent(e);

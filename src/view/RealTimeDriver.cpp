@@ -13,6 +13,11 @@ RealTimeDriver::RealTimeDriver(TimerScheduler& scheduler, Guard guard, QObject* 
     connect(&timer_, &QTimer::timeout, this, &RealTimeDriver::wake);
 }
 
+RealTimeDriver::~RealTimeDriver() {
+    // The program's timers may stop after the driver is gone (at the end).
+    if (running_) scheduler_.setChangeListener(nullptr);
+}
+
 void RealTimeDriver::start() {
     base_ = scheduler_.now();
     elapsed_.start();

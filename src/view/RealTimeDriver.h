@@ -23,6 +23,7 @@ class RealTimeDriver : public QObject {
     Q_OBJECT
 public:
     RealTimeDriver(TimerScheduler& scheduler, Guard guard, QObject* parent = nullptr);
+    ~RealTimeDriver() override;
 
     // Starts following real time from the scheduler's present reading.
     void start();

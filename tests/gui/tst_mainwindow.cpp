@@ -428,6 +428,18 @@ private slots:
         QCOMPARE(events, expected);
     }
 
+    void closingTheWindowEndsTheProgramAsItsUnloadDoes() {
+        loadMap(QStringLiteral(BRELK_SOURCE_DIR "/maps/Aerowalk.txt"));
+        QFile::remove(dir_.filePath("brelk.ini"));
+        QVERIFY(window_->close());
+        QVERIFY(program_->ended());
+        QVERIFY(!window_->isVisible());
+        // The profile file has the window's place.
+        QFile profile(dir_.filePath("brelk.ini"));
+        QVERIFY(profile.open(QIODevice::ReadOnly));
+        QVERIFY(profile.readAll().contains("PosX=600"));
+    }
+
     void screenshotOfARunningMatch() {
         loadMap(QStringLiteral(BRELK_SOURCE_DIR "/maps/Campgrounds.txt"));
         QVERIFY(program_->vars.ItemCount >= 5);
