@@ -1,12 +1,34 @@
 #include "ImageView.h"
 
 #include <QPainter>
+#include <QPixmapCache>
 
 #include "ItemIcons.h"
 #include "map/IconCatalogue.h"
 #include "platform/Form.h"
 
 namespace brelk::view {
+
+namespace {
+
+// Each picture is drawn once per size and pixel density, then copied: a long
+// list shows the same few pictures many times.
+QPixmap picture(int index, QSize size, qreal dpr) {
+    const QString key = QStringLiteral("brelk.picture.%1.%2x%3@%4").arg(index).arg(size.width()).arg(size.height()).arg(dpr);
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap)) return pixmap;
+    pixmap = QPixmap((QSizeF(size) * dpr).toSize());
+    pixmap.setDevicePixelRatio(dpr);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintItemIcon(painter, QRectF(QPointF(0, 0), QSizeF(size)), index);
+    painter.end();
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
+}
+
+}  // namespace
 
 ImageView::ImageView(Control& control, const ViewContext& context, QWidget* parent)
     : QWidget(parent), ControlView(control, context), mouse_(*this) {
@@ -23,8 +45,7 @@ void ImageView::paintEvent(QPaintEvent*) {
     const auto index = iconIndex(control_->get(Prop::Picture).text());
     if (!index) return;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    paintItemIcon(painter, QRectF(rect()), *index);
+    painter.drawPixmap(0, 0, picture(*index, size(), devicePixelRatioF()));
 }
 
 }  // namespace brelk::view
