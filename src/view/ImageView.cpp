@@ -1,5 +1,7 @@
 #include "ImageView.h"
 
+#include <algorithm>
+
 #include <QPainter>
 #include <QPixmapCache>
 
@@ -45,7 +47,10 @@ void ImageView::paintEvent(QPaintEvent*) {
     const auto index = iconIndex(control_->get(Prop::Picture).text());
     if (!index) return;
     QPainter painter(this);
-    painter.drawPixmap(0, 0, picture(*index, size(), devicePixelRatioF()));
+    // The density of what is painted on: the screen's, or that of an image
+    // the window is rendered into.
+    const qreal density = std::max<qreal>(1.0, painter.deviceTransform().m11());
+    painter.drawPixmap(0, 0, picture(*index, size(), density));
 }
 
 }  // namespace brelk::view

@@ -428,6 +428,28 @@ private slots:
         QCOMPARE(events, expected);
     }
 
+    void picturesAndTextStayCrispOnADenseScreen() {
+        loadMap(QStringLiteral(BRELK_SOURCE_DIR "/maps/Aerowalk.txt"));
+        // The window drawn at two device pixels per pixel has detail that
+        // the same window drawn at one and doubled does not.
+        const auto drawn = [&](qreal density) {
+            QPixmap image(window_->size() * density);
+            image.setDevicePixelRatio(density);
+            image.fill(Qt::white);
+            window_->render(&image);
+            return image.toImage();
+        };
+        const QImage dense = drawn(2);
+        const QImage doubled = drawn(1).scaled(window_->size() * 2);
+        for (Control* c : {&f().ico(1), &f().lblTimer(1)}) {
+            const QRect area(widget(*c)->mapTo(window_.get(), QPoint()) * 2, widget(*c)->size() * 2);
+            int differing = 0;
+            for (int y = area.top(); y <= area.bottom(); ++y)
+                for (int x = area.left(); x <= area.right(); ++x) differing += dense.pixel(x, y) != doubled.pixel(x, y);
+            QVERIFY2(differing > area.width() * area.height() / 20, c->displayName().c_str());
+        }
+    }
+
     void closingTheWindowEndsTheProgramAsItsUnloadDoes() {
         loadMap(QStringLiteral(BRELK_SOURCE_DIR "/maps/Aerowalk.txt"));
         QFile::remove(dir_.filePath("brelk.ini"));
