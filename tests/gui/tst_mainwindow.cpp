@@ -421,11 +421,36 @@ private slots:
         for (auto [e, name] : {std::pair{Event::MouseDown, "MouseDown"}, {Event::MouseUp, "MouseUp"},
                                {Event::Click, "Click"}, {Event::DblClick, "DblClick"}})
             f().on("lblMapName", e, record(name));
+        f().on("lblMapName", Event::MouseMove, record("MouseMove"));
         QTest::mouseDClick(handle(), Qt::LeftButton, Qt::ShiftModifier, at(f().lblMapName(1), QPoint(10, 5)));
         const std::vector<std::string> expected = {"MouseDown(1) 1 1 150,75", "MouseUp(1) 1 1 150,75",
                                                    "Click(1) 0 0 0,0", "DblClick(1) 0 0 0,0",
                                                    "MouseUp(1) 1 1 150,75"};
         QCOMPARE(events, expected);
+
+        // The right button held and moved off the label: the moves and the
+        // release still go to it, with the position on it, and no Click.
+        events.clear();
+        QTest::mousePress(handle(), Qt::RightButton, {}, at(f().lblMapName(1), QPoint(10, 5)));
+        QTest::mouseMove(handle(), at(f().lblMapName(1), QPoint(12, 30)));
+        QTest::mouseRelease(handle(), Qt::RightButton, {}, at(f().lblMapName(1), QPoint(12, 30)));
+        const std::vector<std::string> held = {"MouseDown(1) 2 0 150,75", "MouseMove(1) 2 0 180,450",
+                                               "MouseUp(1) 2 0 180,450"};
+        QCOMPARE(events, held);
+    }
+
+    void anAmpersandShowsAsItselfWhereMnemonicsAreOff() {
+        // The map name shows "R&D" as it is; its shadow, with mnemonics on,
+        // shows it as "&&" would show there.
+        QWidget* name = widget(f().lblMapName(1));
+        const auto looks = [&](const char* caption, bool mnemonic) {
+            f().lblMapName(1).setCaption(caption);
+            f().lblMapName(1).setFlag(Prop::UseMnemonic, mnemonic);
+            return name->grab().toImage();
+        };
+        const QImage off = looks("R&D", false);
+        QCOMPARE(looks("R&&D", true), off);
+        QVERIFY(looks("R&D", true) != off);
     }
 
     void picturesAndTextStayCrispOnADenseScreen() {
