@@ -7,7 +7,6 @@
 
 #include "ItemIcons.h"
 #include "map/IconCatalogue.h"
-#include "platform/Form.h"
 
 namespace brelk::view {
 
@@ -31,12 +30,6 @@ QPixmap picture(int index, QSize size, qreal dpr) {
 }
 
 }  // namespace
-
-ImageView::ImageView(Control& control, const ViewContext& context, QWidget* parent)
-    : QWidget(parent), ControlView(control, context), mouse_(*this) {
-    setAttribute(Qt::WA_NoMousePropagation);
-    setMouseTracking(context.form.hasHandler(control.name(), Event::MouseMove));
-}
 
 void ImageView::apply(Prop p) {
     if (p == Prop::Picture || p == Prop::Stretch) update();

@@ -3,7 +3,6 @@
 #include <QPainter>
 
 #include "Twips.h"
-#include "platform/Form.h"
 
 namespace brelk::view {
 
@@ -18,13 +17,6 @@ Qt::Alignment alignmentOf(const Control& c) {
 }
 
 }  // namespace
-
-LabelView::LabelView(Control& control, const ViewContext& context, QWidget* parent)
-    : QWidget(parent), ControlView(control, context), mouse_(*this) {
-    setAttribute(Qt::WA_NoMousePropagation);
-    // Only where the program listens to the moving pointer.
-    setMouseTracking(context.form.hasHandler(control.name(), Event::MouseMove));
-}
 
 void LabelView::apply(Prop p) {
     if (p == Prop::BackStyle) setAttribute(Qt::WA_OpaquePaintEvent, control_->number(Prop::BackStyle) != 0);
