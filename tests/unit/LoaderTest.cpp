@@ -13,6 +13,7 @@
 
 #include "MemoryCap.h"
 #include "ProgramDoubles.h"
+#include "clock/MatchClock.h"
 #include "map/Loader.h"
 
 using namespace brelk;
@@ -53,6 +54,25 @@ struct Load : ProgramTest {
     }
     double width() { return p().frmMain.self().number(Prop::Width); }
 };
+
+TEST_F(Load, TheLineCountStopsAtLine32768WhichIsReportedAs32767AndTheClockIsReset) {
+    // Blank lines count too: line 32767 is the last the count holds.
+    write("limit.txt", lines(32766, "") + "Mega:35\r\nQuad:120\r\n");
+    StartStopGlobalTimer(p());
+    timers.advanceBy(3000);
+    load("limit.txt");
+    ASSERT_EQ(dialogs.boxes.size(), 1u);
+    EXPECT_EQ(dialogs.boxes[0].title, "WTF ?!");
+    EXPECT_EQ(dialogs.boxes[0].prompt, kMessage + " 32767 :\r\nQuad:120");
+    EXPECT_EQ(p().vars.ItemCount, 1);
+    EXPECT_EQ(p().frmMain.lblItem(1).caption(), "MEGA");
+    EXPECT_EQ(p().vars.NextRowTop, 950);
+    EXPECT_EQ(width(), 2050);
+    EXPECT_EQ(height(), 700);
+    EXPECT_FALSE(p().frmMain.timerMatch().enabled());
+    EXPECT_EQ(p().vars.MatchState, "not started");
+    EXPECT_EQ(p().frmMain.lblMatchTimer().caption(), "20:00");
+}
 
 TEST_F(Load, AListOf32767RowsLoadsWholeAndIsClearedByTheNextLoad) {
     write("full.txt", lines(32767, "Mega:35"));
