@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -25,19 +26,6 @@ std::vector<std::filesystem::path> shippedMaps() {
     return maps;
 }
 
-// The lines of a file split at CR LF, as a map is read.
-std::vector<std::string> crlfLines(const std::string& bytes) {
-    std::vector<std::string> lines;
-    std::size_t start = 0;
-    while (start < bytes.size()) {
-        const auto end = bytes.find("\r\n", start);
-        lines.push_back(bytes.substr(start, end == std::string::npos ? std::string::npos : end - start));
-        if (end == std::string::npos) break;
-        start = end + 2;
-    }
-    return lines;
-}
-
 struct ShippedMaps : ProgramTest {};
 
 TEST_F(ShippedMaps, EachLoadsWithAPictureAndAWholePositiveDelayOnEveryRow) {
@@ -54,8 +42,9 @@ TEST_F(ShippedMaps, EachLoadsWithAPictureAndAWholePositiveDelayOnEveryRow) {
             << "every line ends with CR LF";
 
         int items = 0, categories = 0;
-        for (const auto& line : crlfLines(bytes)) {
-            if (line.empty() || line[0] == '#') continue;
+        std::istringstream in_lines(bytes);
+        for (std::string line; std::getline(in_lines, line);) {
+            if (line.empty() || line[0] == '\r' || line[0] == '#') continue;
             if (line[0] == ':') ++categories;
             else ++items;
         }
