@@ -37,11 +37,14 @@ class EntryFieldsTest : public QObject {
                               (e == Event::KeyDown ? " " + std::to_string(a.keyCode) : ""));
         });
     }
-    static void place(Control& c, double left, double top, double width, double height) {
+    // Adds a control at a place of the form, given in twips.
+    Control& put(ControlKind kind, const char* name, double left, double top, Control* box = nullptr) {
+        Control& c = form_->add(kind, name, box);
         c.setNumber(Prop::Left, left);
         c.setNumber(Prop::Top, top);
-        c.setNumber(Prop::Width, width);
-        c.setNumber(Prop::Height, height);
+        c.setNumber(Prop::Width, 1000);
+        c.setNumber(Prop::Height, 315);
+        return c;
     }
 
 private slots:
@@ -50,28 +53,16 @@ private slots:
         form_ = std::make_unique<Form>("frmOptions", clock_);
         form_->self().setNumber(Prop::Width, 4500);
         form_->self().setNumber(Prop::Height, 3000);
-        Control& text = form_->add(ControlKind::TextBox, "txtLastSeconds");
-        place(text, 120, 120, 1200, 300);
-        text.setText("5");
-        Control& box = form_->add(ControlKind::PictureBox, "picOpt");
-        place(box, 120, 600, 2400, 400);
-        box.set(Prop::BorderStyle, 0);
-        place(form_->add(ControlKind::OptionButton, "optYes", &box), 0, 0, 1000, 300);
-        place(form_->add(ControlKind::OptionButton, "optNo", &box), 1200, 0, 1000, 300);
-        at("optYes").setCaption("Yes");
-        at("optNo").setCaption("No");
+        put(ControlKind::TextBox, "txtLastSeconds", 120, 120).setText("5");
+        Control& box = put(ControlKind::PictureBox, "picOpt", 120, 600);
+        box.setNumber(Prop::Width, 2400);
+        put(ControlKind::OptionButton, "optYes", 0, 0, &box).setCaption("Yes");
+        put(ControlKind::OptionButton, "optNo", 1200, 0, &box).setCaption("No");
         at("optYes").set(Prop::Value, -1);
-        Control& list = form_->add(ControlKind::ComboBox, "lstIniFiles");
-        place(list, 120, 1200, 2000, 315);
+        Control& list = put(ControlKind::ComboBox, "lstIniFiles", 120, 1200);
         for (const char* set : {"Dark", "Light", "Tourney"}) list.AddItem(set);
-        Control& ok = form_->add(ControlKind::CommandButton, "cmdOK");
-        place(ok, 120, 2000, 1000, 375);
-        ok.setCaption("OK");
-        ok.setFlag(Prop::Default, true);
-        Control& cancel = form_->add(ControlKind::CommandButton, "cmdCancel");
-        place(cancel, 1300, 2000, 1000, 375);
-        cancel.setCaption("Cancel");
-        cancel.setFlag(Prop::Cancel, true);
+        put(ControlKind::CommandButton, "cmdOK", 120, 2000).setFlag(Prop::Default, true);
+        put(ControlKind::CommandButton, "cmdCancel", 1300, 2000).setFlag(Prop::Cancel, true);
         for (const char* c : {"optYes", "optNo", "lstIniFiles", "cmdOK", "cmdCancel"}) record(c, Event::Click);
         record("txtLastSeconds", Event::KeyDown);
         view_ = std::make_unique<view::FormView>(*form_, view::Guard{});
@@ -116,11 +107,9 @@ private slots:
         QVERIFY(yes->isChecked() && !no->isChecked());
         QVERIFY(widget<QWidget>("picOpt")->isAncestorOf(no));
         QTest::mouseClick(no, Qt::LeftButton);
-        QVERIFY(at("optNo").flag(Prop::Value));
-        QVERIFY(!at("optYes").flag(Prop::Value));
+        QVERIFY(at("optNo").flag(Prop::Value) && !at("optYes").flag(Prop::Value));
         QVERIFY(no->isChecked() && !yes->isChecked());
         QTest::mouseClick(no, Qt::LeftButton);  // no change, no Click
-        QVERIFY(no->isChecked());
         QCOMPARE(events_, std::vector<std::string>{"optNo Click"});
         // The program's write shows; hiding the box hides the pair.
         at("optYes").set(Prop::Value, -1);

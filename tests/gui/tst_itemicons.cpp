@@ -62,7 +62,6 @@ class ItemIconsTest : public QObject {
 
 private slots:
     void catalogueHasOnePicturePerIconWord() { QCOMPARE(kItemIconCount, brelk::kIconCount); }
-
     void everyPictureIsAnEmblemOnClearGround_data() {
         QTest::addColumn<int>("index");
         QTest::addColumn<int>("size");
@@ -102,34 +101,27 @@ private slots:
             }
     }
 
-    void dominantHueMatchesColourFamily_data() {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
+    void eachPictureHasTheColourOfItsItem() {
+        // In catalogue order: QUAD, 25H, REGEN, 50H, BFG, BS, FLIGHT, GL, HASTE, INVIS,
+        // LG, MG, RL, MH, PG, SG, RA, RG, YA, MEDKIT.
         const std::array<Family, kItemIconCount> families = {
             kCyan,   kYellow, kRed,   kOrange, kBlue,   kOrange, kPurple, kGreen, kGreen, kBlue,
             kYellow, kYellow, kRed,   kBlue,   kPurple, kOrange, kRed,    kGreen, kYellow, kRed};
-        for (int i = 0; i < kItemIconCount; ++i)
-            QTest::addRow("%s is %s", brelk::iconWord(i).data(), families[i].name)
-                << i << families[i].from << families[i].to;
-    }
-    void dominantHueMatchesColourFamily() {
-        QFETCH(int, index);
-        QFETCH(int, from);
-        QFETCH(int, to);
-        const int hue = dominantHue(render(index, 32));
-        QVERIFY2(inFamily(hue, Family{"", from, to}), qPrintable(QString::number(hue)));
+        for (int i = 0; i < kItemIconCount; ++i) {
+            const int hue = dominantHue(render(i, 32));
+            QVERIFY2(inFamily(hue, families[i]), qPrintable(QStringLiteral("%1 is not %2 but of hue %3")
+                                                                .arg(brelk::iconWord(i).data(), families[i].name)
+                                                                .arg(hue)));
+        }
     }
 
-    void highDensityPixmapHasDoubleDevicePixels() {
+    void aDensePixmapHasTwiceThePixelsAndTheWholePicture() {
         for (int i = 0; i < kItemIconCount; ++i) {
             const QPixmap pixmap = itemIconPixmap(i, 20, 2.0);
             QCOMPARE(pixmap.size(), QSize(40, 40));
             QCOMPARE(pixmap.devicePixelRatio(), 2.0);
-            QCOMPARE(pixmap.deviceIndependentSize(), QSizeF(20, 20));
             // The picture fills the whole pixmap, not just its logical quarter.
-            const double sharp = paintedFraction(render(i, 20, 2.0));
-            const double plain = paintedFraction(render(i, 20));
+            const double sharp = paintedFraction(render(i, 20, 2.0)), plain = paintedFraction(render(i, 20));
             QVERIFY2(qAbs(sharp - plain) < 0.12, qPrintable(QStringLiteral("%1 vs %2").arg(sharp).arg(plain)));
         }
     }
@@ -152,19 +144,14 @@ private slots:
                 }
             QVERIFY(inside > 0);
         }
-    }
-
-    void indexOutsideCatalogueDrawsNothing() {
+        // An index outside the catalogue draws nothing.
         for (int index : {-1, kItemIconCount}) QCOMPARE(paintedFraction(render(index, 32)), 0.0);
     }
 
     void appIconIsStopwatchWithRedAccentInSeveralSizes() {
         const QIcon icon = appIcon();
         QVERIFY(!icon.isNull());
-        const QList<QSize> sizes = icon.availableSizes();
-        QVERIFY(sizes.contains(QSize(16, 16)));
-        QVERIFY(sizes.contains(QSize(32, 32)));
-        QVERIFY(sizes.contains(QSize(256, 256)));
+        for (int size : {16, 32, 256}) QVERIFY(icon.availableSizes().contains(QSize(size, size)));
         const QImage image = icon.pixmap(QSize(64, 64)).toImage().convertToFormat(QImage::Format_ARGB32);
         QCOMPARE(qAlpha(image.pixel(0, 63)), 0);
         QVERIFY(inFamily(dominantHue(image), kRed));
