@@ -3,7 +3,6 @@
 // the scenario files.
 
 #include <string>
-#include <vector>
 
 #include "ProgramDoubles.h"
 #include "map/Layout.h"
@@ -20,19 +19,10 @@ struct Look : ProgramTest {
         ProgramTest::SetUp();
         p().start();
         auto& v = p().vars;
-        v.IdleTimerColor = 11;
-        v.ActiveTimerColor = 22;
-        v.IdleItemColor = 33;
-        v.ActiveItemColor = 44;
-        v.IdleTimerBold = 0;
-        v.ActiveTimerBold = -1;
-        v.IdleItemBold = 0;
-        v.ActiveItemBold = -1;
-        v.MatchTimerColor = 100;
-        v.LastMinuteMatchTimerColor = 200;
-        v.PausedMatchTimerColor = 300;
-        v.ListColor1 = 1001;
-        v.ListColor2 = 1002;
+        v.IdleTimerColor = 11, v.ActiveTimerColor = 22, v.IdleItemColor = 33, v.ActiveItemColor = 44;
+        v.IdleTimerBold = 0, v.ActiveTimerBold = -1, v.IdleItemBold = 0, v.ActiveItemBold = -1;
+        v.MatchTimerColor = 100, v.LastMinuteMatchTimerColor = 200, v.PausedMatchTimerColor = 300;
+        v.ListColor1 = 1001, v.ListColor2 = 1002;
         for (const char* line : {"Mega:35", "Quad:120", "Red:25"}) AddItem(p(), line);
     }
     Control& timer(int i) { return p().frmMain.lblTimer(static_cast<std::int16_t>(i)); }
@@ -101,15 +91,9 @@ TEST_F(Look, AHalfMadeRowKeepsShowingOnlyItsBackground) {
     EXPECT_EQ(timer(3).number(Prop::ForeColor), 11);
 }
 
-struct ClockCase {
-    const char* state;
-    bool reverse;
-    const char* caption;
-    int expected;
-};
-
 TEST_F(Look, TheClockTakesTheColourOfItsStateAndLastMinute) {
-    const std::vector<ClockCase> cases = {
+    struct ClockCase { const char* state; bool reverse; const char* caption; int expected; };
+    const ClockCase cases[] = {
         {"going", false, "19:00", 100}, {"going", false, "19:01", 200}, {"going", true, "01:01", 100},
         {"going", true, "01:00", 200},  {"paused", false, "19:30", 300}, {"not started", false, "19:30", 100},
     };

@@ -52,14 +52,10 @@ TEST_F(TempDir, ValidUtf8IsKeptAndOtherBytesReadAsWindows1252) {
     EXPECT_EQ(lines("Caf\xC3\xA9\r\n"), (Lines{"Caf\xC3\xA9"}));
     EXPECT_EQ(lines("Caf\xE9 \x80\r\n"), (Lines{"Caf\xC3\xA9 \xE2\x82\xAC"}));
     EXPECT_EQ(lines(std::string("nul\0byte", 8)), (Lines{std::string("nul\0byte", 8)}));
-}
-
-TEST(Utf8, OverlongSurrogateAndTruncatedSequencesAreNotUtf8) {
+    // Overlong, surrogate, cut short and past U+10FFFF are no UTF-8.
     EXPECT_TRUE(files::isValidUtf8("plain \xE2\x82\xAC \xF0\x9F\x98\x80"));
-    EXPECT_FALSE(files::isValidUtf8("\xC0\xAF"));          // overlong "/"
-    EXPECT_FALSE(files::isValidUtf8("\xED\xA0\x80"));      // a surrogate
-    EXPECT_FALSE(files::isValidUtf8("\xE2\x82"));          // cut short
-    EXPECT_FALSE(files::isValidUtf8("\xF4\x90\x80\x80"));  // past U+10FFFF
+    for (const char* bad : {"\xC0\xAF", "\xED\xA0\x80", "\xE2\x82", "\xF4\x90\x80\x80"})
+        EXPECT_FALSE(files::isValidUtf8(bad)) << bad;
 }
 
 TEST_F(TempDir, AMissingFileIsErrorFiftyThreeAndReadingPastTheEndIsSixtyTwo) {
@@ -80,7 +76,7 @@ TEST_F(TempDir, AMissingFileIsErrorFiftyThreeAndReadingPastTheEndIsSixtyTwo) {
     }
 }
 
-TEST_F(TempDir, DirListsMatchingFilesOnceThenGivesEmptyText) {
+TEST_F(TempDir, DirListsMatchingFilesOnceAndDeleteRemovesOne) {
     file("red.set", "");
     file("Blue.SET", "");
     file("map.txt", "");
@@ -92,13 +88,10 @@ TEST_F(TempDir, DirListsMatchingFilesOnceThenGivesEmptyText) {
     EXPECT_EQ(lister.next(), "");
     EXPECT_EQ(files::dirByName(files::join(dir, "red.set")), "red.set");
     EXPECT_EQ(files::dirByName(files::join(dir, "green.set")), "");
-}
-
-TEST_F(TempDir, DeleteRemovesAFileAndFailsOnAMissingOne) {
-    const std::string path = file("old.set", "x");
-    files::kill(path);
-    EXPECT_FALSE(files::exists(path));
-    EXPECT_THROW(files::kill(path), RuntimeError);
+    // Delete removes a file and fails on a missing one.
+    files::kill(files::join(dir, "red.set"));
+    EXPECT_FALSE(files::exists(files::join(dir, "red.set")));
+    EXPECT_THROW(files::kill(files::join(dir, "red.set")), RuntimeError);
 }
 
 TEST(Wildcards, MatchIgnoringCase) {

