@@ -62,23 +62,17 @@ class ItemIconsTest : public QObject {
 
 private slots:
     void catalogueHasOnePicturePerIconWord() { QCOMPARE(kItemIconCount, brelk::kIconCount); }
-    void everyPictureIsAnEmblemOnClearGround_data() {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<int>("size");
-        for (int size : {20, 64})
-            for (int i = 0; i < kItemIconCount; ++i)
-                QTest::addRow("%s@%d", brelk::iconWord(i).data(), size) << i << size;
-    }
     void everyPictureIsAnEmblemOnClearGround() {
-        QFETCH(int, index);
-        QFETCH(int, size);
-        const QImage image = render(index, size);
-        QCOMPARE(image.size(), QSize(size, size));
-        const double painted = paintedFraction(image);
-        QVERIFY2(painted > 0.08, qPrintable(QString::number(painted)));
-        QVERIFY2(painted < 0.75, qPrintable(QString::number(painted)));
-        for (QPoint corner : {QPoint(0, 0), QPoint(size - 1, 0), QPoint(0, size - 1), QPoint(size - 1, size - 1)})
-            QCOMPARE(qAlpha(image.pixel(corner)), 0);
+        for (int size : {20, 64})
+            for (int i = 0; i < kItemIconCount; ++i) {
+                const QImage image = render(i, size);
+                QCOMPARE(image.size(), QSize(size, size));
+                const double painted = paintedFraction(image);
+                QVERIFY2(painted > 0.08 && painted < 0.75,
+                         qPrintable(QStringLiteral("%1@%2: %3").arg(brelk::iconWord(i).data()).arg(size).arg(painted)));
+                for (QPoint corner : {QPoint(0, 0), QPoint(size - 1, 0), QPoint(0, size - 1), QPoint(size - 1, size - 1)})
+                    QCOMPARE(qAlpha(image.pixel(corner)), 0);
+            }
     }
 
     void picturesArePairwiseDifferent() {

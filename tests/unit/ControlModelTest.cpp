@@ -68,17 +68,6 @@ TEST_F(Model, LoadCopiesMemberZeroHiddenAndUnloadFreesTheIndex) {
     EXPECT_NO_THROW(form.Load("lblItem", 1));
 }
 
-TEST_F(Model, ALoadedTimerCopiesIntervalAndTagButNeverStartsRunning) {
-    Control& proto = form.addMember(ControlKind::Timer, "timerFlash", 0);
-    proto.setNumber(Prop::Interval, 333);
-    proto.setTag("12");
-    Control& t = form.Load("timerFlash", 4);
-    EXPECT_EQ(t.number(Prop::Interval), 333);
-    EXPECT_EQ(t.tag(), "12");
-    EXPECT_FALSE(t.enabled());
-    EXPECT_FALSE(clock.isRunning(t));
-}
-
 TEST_F(Model, AnErrorNoProcedureCaughtIsReportedAndTheProgramGoesOn) {
     Control& b = form.add(ControlKind::CommandButton, "cmd");
     std::vector<int> reported;
@@ -113,14 +102,6 @@ TEST_F(Model, FocusMovesWithLostFocusBeforeGotFocus) {
     form.setFocus(&b);
     EXPECT_EQ(form.focus(), &b);
     EXPECT_EQ(log, (std::vector<std::string>{"txtA(0).LostFocus:0", "txtB(0).GotFocus:0"}));
-}
-
-TEST_F(Model, SendingToTheBackPutsAControlBehindEverySibling) {
-    Control& first = form.add(ControlKind::Label, "a");
-    Control& later = form.add(ControlKind::Label, "b");
-    EXPECT_LT(first.zOrder(), later.zOrder());
-    later.ZOrder(1);
-    EXPECT_LT(later.zOrder(), first.zOrder());
 }
 
 }  // namespace
