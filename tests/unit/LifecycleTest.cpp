@@ -4,6 +4,7 @@
 #include <string>
 
 #include "ProgramDoubles.h"
+#include "platform/Errors.h"
 #include "platform/Events.h"
 #include "state/Lifecycle.h"
 
@@ -51,6 +52,29 @@ TEST_F(Life, TheStartIsCountedAndTheWindowPlacedBeforeTheSettingsAreRead) {
     // Then the appearance and the empty list.
     EXPECT_EQ(p().frmMain.self().number(Prop::Height), 700);
     EXPECT_EQ(p().vars.MatchState, "not started");
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(Life, AnErrorNoProcedureCatchesIsShownAndTheProgramGoesOn) {
+    p().start();
+    dialogs.boxes.clear();
+    int clicks = 0;
+    p().frmMain.on("cmdPopup", Event::Click, [&](const EventArgs&) {
+        ++clicks;
+        brelk::raise(err::Overflow);
+    });
+    p().frmMain.click(p().frmMain.cmdPopup());
+    ASSERT_EQ(dialogs.boxes.size(), 1u);
+    EXPECT_EQ(dialogs.boxes[0].title, "Brelk");
+    EXPECT_EQ(dialogs.boxes[0].prompt.rfind("Run-time error '6':", 0), 0u);
+    EXPECT_FALSE(p().ended());
+    // The next event is handled as usual.
+    p().frmMain.click(p().frmMain.cmdPopup());
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(dialogs.boxes.size(), 2u);
 }
 
 }  // namespace
