@@ -30,7 +30,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/TimerScheduler.h"
-#include "state/Program.h"
+#include "forms/Brelk.h"
 #include "state/TimeText.h"
 
 using namespace brelk;
@@ -106,7 +106,7 @@ struct Bench {
         dialogs.dir = dir.path().toStdString();
         services = std::make_unique<Services>(
             Services{clock, dialogs, windows, AppInfo{dialogs.dir, "brelk", 1, 0, 0}, 19200});
-        program = std::make_unique<Program>(*services);
+        program = std::make_unique<Brelk>(*services);
         const view::Guard guarded = [this](const std::function<void()>& a) { return program->guarded(a); };
         driver = std::make_unique<view::RealTimeDriver>(clock, [this](const std::function<void()>& a) {
             return onTicks ? onTicks(a) : program->guarded(a);

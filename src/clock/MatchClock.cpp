@@ -1,53 +1,17 @@
 #include "clock/MatchClock.h"
 
 #include <algorithm>
-#include <cmath>
-#include <optional>
 
-#include "platform/Errors.h"
+#include "platform/Dialogs.h"
+#include "platform/Events.h"
 #include "platform/Numbers.h"
+#include "state/ClockReading.h"
+#include "state/Markers.h"
 #include "state/Program.h"
 #include "state/RowRange.h"
-#include "state/TimeText.h"
 #include "timers/Countdown.h"
 
 namespace brelk {
-
-namespace {
-
-constexpr const char* kStandardLength = "20:00";
-
-// Seconds of a time text, or nothing when it is no time text.
-std::optional<double> timeSeconds(const std::string& text) {
-    try {
-        const double s = Secondes(text);
-        if (std::isnan(s)) return std::nullopt;
-        return s;
-    } catch (const RuntimeError&) {
-        return std::nullopt;
-    }
-}
-
-}  // namespace
-
-std::string matchDurationText(const ModVars& v) {
-    const auto length = timeSeconds(v.MatchDuration);
-    if (!length) return kStandardLength;
-    const double whole = std::clamp(num::roundHalfEven(*length), 0.0, kLargestReading);
-    return whole == *length ? v.MatchDuration : Minutes(static_cast<std::int16_t>(whole));
-}
-
-double matchDurationSeconds(const ModVars& v) { return Secondes(matchDurationText(v)); }
-
-double clockReading(Program& p) {
-    if (const auto reading = timeSeconds(p.frmMain.lblMatchTimer().caption())) return num::roundHalfEven(*reading);
-    return num::isTrue(p.vars.MatchTimerReverse) ? matchDurationSeconds(p.vars) : 0;
-}
-
-void showReading(Program& p, double seconds) {
-    const double held = std::clamp(seconds, -32768.0, kLargestReading);
-    p.frmMain.lblMatchTimer().setCaption(Minutes(static_cast<std::int16_t>(held)));
-}
 
 void StartStopGlobalTimer(Program& p) {
     auto& f = p.frmMain;
@@ -57,16 +21,16 @@ void StartStopGlobalTimer(Program& p) {
 
     f.timerMatch().setEnabled(!f.timerMatch().enabled());
     if (f.timerMatch().enabled()) {
-        if (v.MatchState == "not started")
-            clock.setCaption(num::isTrue(v.MatchTimerReverse) ? matchDurationText(v) : "00:00");
+        if (v.MatchState == match::NotStarted)
+            clock.setCaption(num::isTrue(v.MatchTimerReverse) ? matchDurationText(v) : kZeroTime);
         clock.setNumber(Prop::ForeColor, v.MatchTimerColor);
         clock.setFlag(Prop::FontBold, true);
         status.setCaption("");
         status.setNumber(Prop::ForeColor, v.MatchTimerColor);
-        v.MatchState = "going";
+        v.MatchState = match::Going;
         for (const std::int16_t i : rowsUpTo(v.ItemCount)) {
             if (!isCompleteRow(p, i)) continue;  // a row left half-made by a bad map line stays still
-            if (f.lblTimer(i).caption() != "00:00") {
+            if (f.lblTimer(i).caption() != kZeroTime) {
                 f.timerItem(i).setEnabled(true);
                 f.lblTimerGlobal(i).setVisible(true);
             } else {
@@ -78,7 +42,7 @@ void StartStopGlobalTimer(Program& p) {
         clock.setFlag(Prop::FontBold, false);
         status.setNumber(Prop::ForeColor, v.PausedMatchTimerColor);
         status.setCaption("Paused");
-        v.MatchState = "paused";
+        v.MatchState = match::Paused;
         for (const std::int16_t i : rowsUpTo(v.ItemCount)) f.timerItem(i).setEnabled(false);
     }
 }
@@ -108,11 +72,36 @@ void EndOfMatch(Program& p) {
     auto& f = p.frmMain;
     f.timerMatch().setEnabled(false);
     f.lblMatchStatus().setCaption("Match Ended");
-    p.vars.MatchState = "not started";
+    p.vars.MatchState = match::NotStarted;
     for (const std::int16_t i : rowsUpTo(p.vars.ItemCount)) {
-        f.timerClick(i).setTag("4");
+        f.timerClick(i).setTag(mark::EndBlink);
         f.timerClick(i).setEnabled(true);
     }
+}
+
+void lblMatchTimer_MouseDown(Program& p, int Button) {
+    if (Button == button::Left) StartStopGlobalTimer(p);
+}
+
+void lblMatchTimer_MouseUp(Program& p, int Button) {
+    if (Button != button::Right) return;
+    if (Control* chosen = p.sys.dialogs.popupMenu(p.frmMain, p.frmMain.mnuMatchTimer()))
+        p.frmMain.raise(*chosen, Event::Click);
+}
+
+void ChangeGlobalTimerColor(Program& p) {
+    auto& v = p.vars;
+    std::int32_t colour = v.MatchTimerColor;
+    if (v.MatchState == match::Paused) {
+        colour = v.PausedMatchTimerColor;
+    } else if (v.MatchState != match::NotStarted && !v.MatchState.empty()) {
+        const double reading = clockReading(p);
+        const bool lastMinute = num::isTrue(v.MatchTimerReverse) ? reading <= 60
+                                                                  : reading > matchDurationSeconds(v) - 60;
+        if (lastMinute) colour = v.LastMinuteMatchTimerColor;
+    }
+    p.frmMain.lblMatchTimer().setNumber(Prop::ForeColor, colour);
+    p.frmMain.lblMatchStatus().setNumber(Prop::ForeColor, colour);
 }
 
 }  // namespace brelk

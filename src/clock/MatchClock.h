@@ -1,29 +1,10 @@
 #pragma once
 
-#include <string>
+#include <cstdint>
 
 namespace brelk {
 
 class Program;
-struct ModVars;
-
-// The clock holds whole seconds in 16 bits: 546:07 is its largest reading.
-constexpr double kLargestReading = 32767;
-
-// The match length as the clock uses it. MatchDuration itself when it is a
-// time text of whole seconds from 00:00 to 546:07; a length outside that
-// range is taken at the nearer limit (a fraction rounded to whole seconds);
-// a text that is no time text stands for the standard 20:00, so that a
-// hand-edited profile cannot stop the clock.
-std::string matchDurationText(const ModVars& v);
-double matchDurationSeconds(const ModVars& v);
-
-// The clock's reading in whole seconds. A caption that is no time text
-// reads as the reading a match starts from in the present direction: the
-// match length counting down, 00:00 counting up.
-double clockReading(Program& p);
-// Writes `seconds` to the clock, kept within what it can hold.
-void showReading(Program& p, double seconds);
 
 // The hand-driven match clock. Its reading exists only as the caption of
 // lblMatchTimer; timerMatch running is the gate for timing items.
@@ -34,5 +15,13 @@ void StartStopGlobalTimer(Program& p);
 void timerMatch_Timer(Program& p);
 // The match length is used up: the clock stops and every row blinks twice.
 void EndOfMatch(Program& p);
+
+// The mouse on the clock or its status: a left press starts, pauses or
+// resumes; a right release offers the clock's menu.
+void lblMatchTimer_MouseDown(Program& p, int Button);
+void lblMatchTimer_MouseUp(Program& p, int Button);
+
+// Gives the clock and its status the colour of the present match state.
+void ChangeGlobalTimerColor(Program& p);
 
 }  // namespace brelk

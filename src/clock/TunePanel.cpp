@@ -1,6 +1,6 @@
 #include "clock/TunePanel.h"
 
-#include "clock/MatchClock.h"
+#include "state/ClockReading.h"
 #include "state/Program.h"
 
 namespace brelk {

@@ -2,6 +2,7 @@
 
 #include "map/ItemLine.h"
 #include "platform/Numbers.h"
+#include "state/Markers.h"
 #include "state/Program.h"
 #include "state/RowRange.h"
 #include "timers/Countdown.h"
@@ -119,7 +120,7 @@ void AjusteLargeur(Program& p) {
 
     for (const std::int16_t i : rowsUpTo(v.CategoryCount)) f.lineCat(i).setNumber(Prop::X2, 1800 + growth);
     for (const std::int16_t i : rowsUpTo(v.ItemCount)) {
-        if (isCompleteRow(p, i) && (f.timerItem(i).enabled() || v.MatchState != "going"))
+        if (isCompleteRow(p, i) && (f.timerItem(i).enabled() || v.MatchState != match::Going))
             f.lblTimerGlobal(i).setVisible(num::isTrue(v.ShowItemsTimers));
         f.lblFond(i).setNumber(Prop::Width, 1700 + growth);
     }

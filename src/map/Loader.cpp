@@ -4,13 +4,14 @@
 #include <exception>
 #include <string>
 
-#include "clock/MatchClock.h"
 #include "map/Layout.h"
+#include "map/ListLook.h"
 #include "platform/Dialogs.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
-#include "settings/Appearance.h"
+#include "state/ClockReading.h"
+#include "state/Markers.h"
 #include "state/Program.h"
 #include "state/RowRange.h"
 
@@ -92,7 +93,7 @@ void FormInit(Program& p) {
     }
     f.timerMatch().setEnabled(false);
     f.lblMatchTimer().setCaption(matchDurationText(v));
-    v.MatchState = "not started";
+    v.MatchState = match::NotStarted;
     v.CategoryCount = 0;
     v.ItemCount = 0;
     v.NextRowTop = 600;

@@ -195,6 +195,20 @@ bool Form::pressCancel() {
     return false;
 }
 
+void Form::Load() {
+    loaded_ = true;
+    raiseForm(Event::Load);
+}
+
+void Form::Unload() {
+    if (!loaded_) return;
+    raiseForm(Event::Unload);
+    loaded_ = false;
+    // Copied: an observer may stop observing as it learns of the end.
+    const std::vector<FormObserver*> observers = observers_;
+    for (auto* o : observers) o->formUnloaded();
+}
+
 void Form::addObserver(FormObserver* o) { observers_.push_back(o); }
 
 void Form::removeObserver(FormObserver* o) {

@@ -26,6 +26,8 @@ public:
     virtual void propertyChanged(Control&, Prop) {}
     virtual void zOrderChanged(Control&) {}
     virtual void focusChanged(Control* /*now*/) {}
+    // The form itself was unloaded: its window goes, a modal wait ends.
+    virtual void formUnloaded() {}
 };
 
 // A form: its own properties, its named controls and control arrays, the
@@ -86,9 +88,12 @@ public:
     bool pressDefault();
     bool pressCancel();
 
-    // Whether the form's Load event has run and it has not been unloaded since.
+    // The form itself: Load runs its Load event; Unload runs its Unload
+    // event, then closes it, which every observer learns. A form is loaded
+    // from its Load until its Unload.
+    void Load();
+    void Unload();
     bool isLoaded() const { return loaded_; }
-    void setLoaded(bool loaded) { loaded_ = loaded; }
 
     void addObserver(FormObserver* o);
     void removeObserver(FormObserver* o);

@@ -7,7 +7,6 @@
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "settings/IniFile.h"
-#include "state/ModVars.h"
 #include "state/Program.h"
 
 namespace brelk {
@@ -64,81 +63,82 @@ double readPosition(const std::string& text) {
     return std::clamp(num::roundHalfEven(num::leadingValue(text)), -2147483648.0, 2147483647.0);
 }
 
-std::string formatValue(KeyKind kind, double value) {
+std::optional<Value> readValue(VarKind kind, const std::string& text) {
     switch (kind) {
-    case KeyKind::Flag: return value != 0 ? "True" : "False";
-    case KeyKind::Position: return num::plainText(num::roundHalfEven(value));
-    default: return num::plainText(value);
+    case VarKind::Flag:
+        if (auto f = readFlag(text)) return Value(*f);
+        return std::nullopt;
+    case VarKind::Int16:
+        if (auto n = readInteger(text)) return Value(*n);
+        return std::nullopt;
+    case VarKind::Colour: return Value(readColour(text));
+    case VarKind::Int32: return Value(readPosition(text));
+    case VarKind::Text: return Value(text);
+    }
+    return std::nullopt;
+}
+
+std::string formatValue(VarKind kind, const Value& value) {
+    switch (kind) {
+    case VarKind::Flag: return value.number() != 0 ? "True" : "False";
+    case VarKind::Int32: return num::plainText(num::roundHalfEven(value.number()));
+    case VarKind::Text: return value.text();
+    default: return num::plainText(value.number());
     }
 }
 
 namespace {
 
-// Reads the settings keys from `source`; false at the first value that
-// cannot be read, the keys before it having taken their new values.
+// Reads the settings from `source`; false at the first value that cannot be
+// read, the values before it having taken their new values.
 template <typename Source>
 bool readSettings(Program& p, Source source) {
-    const auto& keys = profileKeys();
-    for (int i = kFirstSettingKey; i <= kLastSettingKey; ++i) {
-        const ProfileKey& k = keys[i];
-        const std::string text = source(k);
-        std::optional<Value> value;
-        switch (k.kind) {
-        case KeyKind::Flag:
-            if (auto f = readFlag(text)) value = Value(*f);
-            break;
-        case KeyKind::Integer:
-            if (auto n = readInteger(text)) value = Value(*n);
-            break;
-        case KeyKind::Colour:
-            value = Value(readColour(text));
-            break;
-        case KeyKind::Position:
-            value = Value(readPosition(text));
-            break;
-        case KeyKind::Text:
-            value = Value(text);
-            break;
-        }
+    for (const SharedVariable& s : sharedVariables()) {
+        if (s.stored != Stored::Settings) continue;
+        const auto value = readValue(s.kind, source(s));
         if (!value) return false;
-        writeVar(p.vars, k.field, *value);
+        writeVar(p.vars, s, *value);
     }
     return true;
+}
+
+// What a profile file keeps of a variable; the window's place is where it
+// stands now, not where it stood at start.
+Value storedValue(Program& p, const SharedVariable& s) {
+    if (s.name == "PosX") return Value(p.frmMain.self().number(Prop::Left));
+    if (s.name == "PosY") return Value(p.frmMain.self().number(Prop::Top));
+    return readVar(p.vars, s);
 }
 
 }  // namespace
 
 void ReadIniFile(Program& p, const std::string& IniFile) {
-    const bool whole = readSettings(p, [&](const ProfileKey& k) {
-        return ReadIniValue(p, std::string(k.section), std::string(k.key), IniFile);
+    const bool whole = readSettings(p, [&](const SharedVariable& s) {
+        return ReadIniValue(p, std::string(s.section), std::string(s.name), IniFile);
     });
     if (!whole) p.MsgBox("An error occured when reading file (wrong file format ?)", msgbox::Critical, "WTF ?!");
 }
 
 void applyBuiltInSettings(Program& p) {
-    readSettings(p, [](const ProfileKey& k) { return std::string(k.builtIn); });
+    readSettings(p, [](const SharedVariable& s) { return std::string(s.builtIn); });
 }
 
 void WriteIniFile(Program& p, const std::string& IniFile) {
-    const auto& keys = profileKeys();
-    for (int i = 0; i <= kLastWrittenKey; ++i) {
-        const ProfileKey& k = keys[i];
-        std::string text;
-        if (k.field == "PosX") text = formatValue(k.kind, p.frmMain.self().number(Prop::Left));
-        else if (k.field == "PosY") text = formatValue(k.kind, p.frmMain.self().number(Prop::Top));
-        else if (k.kind == KeyKind::Text) text = readVar(p.vars, k.field).text();
-        else text = formatValue(k.kind, readVar(p.vars, k.field).number());
-        WriteIniValue(p, std::string(k.section), std::string(k.key), text, IniFile);
-        if (k.kind == KeyKind::Text) writeVar(p.vars, k.field, Value(text));  // trimmed in place
+    for (const SharedVariable& s : sharedVariables()) {
+        if (s.stored != Stored::Window && s.stored != Stored::Settings) continue;
+        std::string text = formatValue(s.kind, storedValue(p, s));
+        WriteIniValue(p, std::string(s.section), std::string(s.name), text, IniFile);
+        if (s.kind == VarKind::Text) writeVar(p.vars, s, Value(text));  // trimmed in place
     }
 }
 
 bool profileExists(Program& p) { return files::exists(path(p, "")); }
 
 void writeBuiltInProfile(Program& p) {
-    for (const ProfileKey& k : profileKeys()) {
-        std::string text(k.builtIn);
-        WriteIniValue(p, std::string(k.section), std::string(k.key), text, "");
+    for (const SharedVariable& s : sharedVariables()) {
+        if (s.stored == Stored::Never) continue;
+        std::string text(s.builtIn);
+        WriteIniValue(p, std::string(s.section), std::string(s.name), text, "");
     }
 }
 

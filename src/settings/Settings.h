@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "settings/ProfileKeys.h"
+#include "state/ModVars.h"
 
 namespace brelk {
 
@@ -29,8 +29,10 @@ std::optional<double> readFlag(const std::string& text);
 std::optional<double> readInteger(const std::string& text);
 double readColour(const std::string& text);
 double readPosition(const std::string& text);
+// A value as its kind reads it from a profile file; none when it cannot be read.
+std::optional<Value> readValue(VarKind kind, const std::string& text);
 // The text a value of this kind is written as.
-std::string formatValue(KeyKind kind, double value);
+std::string formatValue(VarKind kind, const Value& value);
 
 // The program's profile file, with every key at its built-in value, for a
 // first start.

@@ -6,12 +6,13 @@
 
 namespace brelk {
 
-// The main window with its design-time controls: the top strip, the tune
-// panel, the menus, the twenty catalogue pictures and the prototypes
-// (member 0) of every row array.
+// The main window, reached by the names of its controls: the top strip, the
+// tune panel, the menus, the twenty catalogue pictures and the row arrays,
+// whose member 0 is each row control's prototype. What the controls are
+// made of is the window's design, given by the program's top layer.
 class MainForm : public Form {
 public:
-    explicit MainForm(TimerScheduler& timers);
+    explicit MainForm(TimerScheduler& timers) : Form("frmMain", timers) {}
 
     // Row arrays.
     Control& lblFond(std::int16_t i) { return at("lblFond", i); }

@@ -1,100 +1,90 @@
 #include "state/ModVars.h"
 
-#include <variant>
-
 #include "platform/Errors.h"
 #include "platform/Numbers.h"
 
 namespace brelk {
 
-namespace {
-
-using Field = std::variant<std::int16_t ModVars::*, std::int32_t ModVars::*, std::string ModVars::*>;
-
-struct Entry {
-    VarInfo info;
-    Field field;
-};
-
-const std::vector<Entry>& entries() {
-    static const std::vector<Entry> table = {
-        {{"NextRowTop", VarKind::Int32}, &ModVars::NextRowTop},
-        {{"CategoryCount", VarKind::Int16}, &ModVars::CategoryCount},
-        {{"ItemCount", VarKind::Int16}, &ModVars::ItemCount},
-        {{"ListColor", VarKind::Flag}, &ModVars::ListColor},
-        {{"LastSeconds", VarKind::Int16}, &ModVars::LastSeconds},
-        {{"LastFlash", VarKind::Int16}, &ModVars::LastFlash},
-        {{"ActiveTimerBold", VarKind::Flag}, &ModVars::ActiveTimerBold},
-        {{"IdleTimerBold", VarKind::Flag}, &ModVars::IdleTimerBold},
-        {{"ActiveItemBold", VarKind::Flag}, &ModVars::ActiveItemBold},
-        {{"IdleItemBold", VarKind::Flag}, &ModVars::IdleItemBold},
-        {{"CategoryBold", VarKind::Flag}, &ModVars::CategoryBold},
-        {{"MapName3D", VarKind::Flag}, &ModVars::MapName3D},
-        {{"MatchTimerReverse", VarKind::Flag}, &ModVars::MatchTimerReverse},
-        {{"ShowItemsTimers", VarKind::Flag}, &ModVars::ShowItemsTimers},
-        {{"MatchDuration", VarKind::Text}, &ModVars::MatchDuration},
-        {{"FormColor", VarKind::Colour}, &ModVars::FormColor},
-        {{"ListColor1", VarKind::Colour}, &ModVars::ListColor1},
-        {{"ListColor2", VarKind::Colour}, &ModVars::ListColor2},
-        {{"IdleTimerColor", VarKind::Colour}, &ModVars::IdleTimerColor},
-        {{"ActiveTimerColor", VarKind::Colour}, &ModVars::ActiveTimerColor},
-        {{"IdleItemColor", VarKind::Colour}, &ModVars::IdleItemColor},
-        {{"ActiveItemColor", VarKind::Colour}, &ModVars::ActiveItemColor},
-        {{"LastSecondsTimerColor", VarKind::Colour}, &ModVars::LastSecondsTimerColor},
-        {{"CategoryColor", VarKind::Colour}, &ModVars::CategoryColor},
-        {{"MapNameColor", VarKind::Colour}, &ModVars::MapNameColor},
-        {{"MatchTimerColor", VarKind::Colour}, &ModVars::MatchTimerColor},
-        {{"LastMinuteMatchTimerColor", VarKind::Colour}, &ModVars::LastMinuteMatchTimerColor},
-        {{"PausedMatchTimerColor", VarKind::Colour}, &ModVars::PausedMatchTimerColor},
-        {{"MatchState", VarKind::Text}, &ModVars::MatchState},
-        {{"OnTop", VarKind::Flag}, &ModVars::OnTop},
-        {{"PosX", VarKind::Int32}, &ModVars::PosX},
-        {{"PosY", VarKind::Int32}, &ModVars::PosY},
-        {{"Launched", VarKind::Int16}, &ModVars::Launched},
-        {{"TimedItems", VarKind::Int16}, &ModVars::TimedItems},
+const std::vector<SharedVariable>& sharedVariables() {
+    using K = VarKind;
+    using S = Stored;
+    static const std::vector<SharedVariable> table = {
+        {"PosX", K::Int32, &ModVars::PosX, S::Window, "Form", "600"},
+        {"PosY", K::Int32, &ModVars::PosY, S::Window, "Form", "600"},
+        {"OnTop", K::Flag, &ModVars::OnTop, S::Window, "Form", "True"},
+        {"ListColor", K::Flag, &ModVars::ListColor, S::Settings, "Options", "True"},
+        {"LastSeconds", K::Int16, &ModVars::LastSeconds, S::Settings, "Options", "5"},
+        {"LastFlash", K::Int16, &ModVars::LastFlash, S::Settings, "Options", "12"},
+        {"ActiveTimerBold", K::Flag, &ModVars::ActiveTimerBold, S::Settings, "Options", "True"},
+        {"IdleTimerBold", K::Flag, &ModVars::IdleTimerBold, S::Settings, "Options", "False"},
+        {"ActiveItemBold", K::Flag, &ModVars::ActiveItemBold, S::Settings, "Options", "True"},
+        {"IdleItemBold", K::Flag, &ModVars::IdleItemBold, S::Settings, "Options", "True"},
+        {"CategoryBold", K::Flag, &ModVars::CategoryBold, S::Settings, "Options", "False"},
+        {"MapName3D", K::Flag, &ModVars::MapName3D, S::Settings, "Options", "True"},
+        {"MatchTimerReverse", K::Flag, &ModVars::MatchTimerReverse, S::Settings, "Options", "False"},
+        {"ShowItemsTimers", K::Flag, &ModVars::ShowItemsTimers, S::Settings, "Options", "True"},
+        {"MatchDuration", K::Text, &ModVars::MatchDuration, S::Settings, "Options", "20:00"},
+        {"FormColor", K::Colour, &ModVars::FormColor, S::Settings, "Colors", "13160660"},    // 0xC8D0D4
+        {"ListColor1", K::Colour, &ModVars::ListColor1, S::Settings, "Colors", "15263976"},  // 0xE8E8E8
+        {"ListColor2", K::Colour, &ModVars::ListColor2, S::Settings, "Colors", "14211288"},  // 0xD8D8D8
+        {"IdleTimerColor", K::Colour, &ModVars::IdleTimerColor, S::Settings, "Colors", "4210752"},      // 0x404040
+        {"ActiveTimerColor", K::Colour, &ModVars::ActiveTimerColor, S::Settings, "Colors", "8404992"},  // 0x804000
+        {"IdleItemColor", K::Colour, &ModVars::IdleItemColor, S::Settings, "Colors", "0"},
+        {"ActiveItemColor", K::Colour, &ModVars::ActiveItemColor, S::Settings, "Colors", "8388608"},  // 0x800000
+        {"LastSecondsTimerColor", K::Colour, &ModVars::LastSecondsTimerColor, S::Settings, "Colors", "255"},
+        {"CategoryColor", K::Colour, &ModVars::CategoryColor, S::Settings, "Colors", "8421504"},  // 0x808080
+        {"MapNameColor", K::Colour, &ModVars::MapNameColor, S::Settings, "Colors", "192"},        // 0x0000C0
+        {"MatchTimerColor", K::Colour, &ModVars::MatchTimerColor, S::Settings, "Colors", "16711680"},  // 0xFF0000
+        {"LastMinuteMatchTimerColor", K::Colour, &ModVars::LastMinuteMatchTimerColor, S::Settings, "Colors", "255"},
+        {"Launched", K::Int16, &ModVars::Launched, S::Stats, "Stats", "0"},
+        {"TimedItems", K::Int16, &ModVars::TimedItems, S::Stats, "Stats", "0"},
+        {"PausedMatchTimerColor", K::Colour, &ModVars::PausedMatchTimerColor},
+        {"NextRowTop", K::Int32, &ModVars::NextRowTop},
+        {"CategoryCount", K::Int16, &ModVars::CategoryCount},
+        {"ItemCount", K::Int16, &ModVars::ItemCount},
+        {"MatchState", K::Text, &ModVars::MatchState},
     };
     return table;
 }
 
-const Entry& entry(std::string_view name) {
-    for (const auto& e : entries())
-        if (e.info.name == name) return e;
+namespace {
+
+const SharedVariable* find(std::string_view name) {
+    for (const auto& v : sharedVariables())
+        if (v.name == name) return &v;
+    return nullptr;
+}
+
+const SharedVariable& named(std::string_view name) {
+    if (const SharedVariable* v = find(name)) return *v;
     raise(err::InvalidCall, "Unknown variable " + std::string(name));
 }
 
 }  // namespace
 
-const std::vector<VarInfo>& varTable() {
-    static const std::vector<VarInfo> infos = [] {
-        std::vector<VarInfo> v;
-        for (const auto& e : entries()) v.push_back(e.info);
-        return v;
-    }();
-    return infos;
-}
-
 std::optional<VarKind> varKind(std::string_view name) {
-    for (const auto& e : entries())
-        if (e.info.name == name) return e.info.kind;
+    if (const SharedVariable* v = find(name)) return v->kind;
     return std::nullopt;
 }
 
-Value readVar(const ModVars& vars, std::string_view name) {
-    const Entry& e = entry(name);
-    if (auto p = std::get_if<std::int16_t ModVars::*>(&e.field)) return Value(static_cast<int>(vars.**p));
-    if (auto p = std::get_if<std::int32_t ModVars::*>(&e.field)) return Value(static_cast<double>(vars.**p));
-    return Value(vars.*std::get<std::string ModVars::*>(e.field));
+Value readVar(const ModVars& vars, const SharedVariable& v) {
+    if (auto p = std::get_if<std::int16_t ModVars::*>(&v.field)) return Value(static_cast<int>(vars.**p));
+    if (auto p = std::get_if<std::int32_t ModVars::*>(&v.field)) return Value(static_cast<double>(vars.**p));
+    return Value(vars.*std::get<std::string ModVars::*>(v.field));
 }
 
-void writeVar(ModVars& vars, std::string_view name, const Value& value) {
-    const Entry& e = entry(name);
-    if (auto p = std::get_if<std::string ModVars::*>(&e.field)) {
+void writeVar(ModVars& vars, const SharedVariable& v, const Value& value) {
+    if (auto p = std::get_if<std::string ModVars::*>(&v.field)) {
         vars.**p = value.text();
         return;
     }
     const double n = value.isText() ? num::strictValue(value.text()) : value.number();
-    if (auto p = std::get_if<std::int16_t ModVars::*>(&e.field)) vars.**p = num::toInt16(n);
-    else vars.*std::get<std::int32_t ModVars::*>(e.field) = num::toInt32(n);
+    if (auto p = std::get_if<std::int16_t ModVars::*>(&v.field)) vars.**p = num::toInt16(n);
+    else vars.*std::get<std::int32_t ModVars::*>(v.field) = num::toInt32(n);
 }
+
+Value readVar(const ModVars& vars, std::string_view name) { return readVar(vars, named(name)); }
+
+void writeVar(ModVars& vars, std::string_view name, const Value& value) { writeVar(vars, named(name), value); }
 
 }  // namespace brelk

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "platform/Value.h"
@@ -58,19 +59,44 @@ struct ModVars {
     std::int16_t TimedItems = 0;
 };
 
-// Access to the shared variables by name, for tools and tests.
+// How a variable holds its value, which is also how a profile file writes
+// and reads it: a flag as "True"/"False", a 16-bit integer strictly, a
+// colour or a 32-bit position by the number at the text's start, a text as
+// it stands.
 enum class VarKind { Int16, Int32, Flag, Colour, Text };
 
-struct VarInfo {
-    std::string_view name;
-    VarKind kind;
+// Which profile files keep a variable, and who reads it back.
+enum class Stored {
+    Never,     // lives only while the program runs
+    Window,    // [Form]: written with the settings, read only at start
+    Settings,  // [Options] and [Colors]: written and read with the settings
+    Stats,     // [Stats]: the program's own profile file only, read at start
 };
 
-const std::vector<VarInfo>& varTable();
+using VarField = std::variant<std::int16_t ModVars::*, std::int32_t ModVars::*, std::string ModVars::*>;
+
+// One shared variable: its name, which is also its profile key, how it is
+// held, where it is stored and the value a first start gives it.
+struct SharedVariable {
+    std::string_view name;
+    VarKind kind;
+    VarField field;
+    Stored stored = Stored::Never;
+    std::string_view section;  // profile section, "" when never stored
+    std::string_view builtIn;  // the built-in profile's text
+};
+
+// Every shared variable. The stored ones come first, in the order a profile
+// file is written: Form, Options, Colors, then Stats.
+const std::vector<SharedVariable>& sharedVariables();
+
+// Access by name, for tools and tests. Reading or writing an unknown name
+// raises error 5; writing converts numbers with checks (error 6 on overflow)
+// and takes a number's text for a text variable.
 std::optional<VarKind> varKind(std::string_view name);
-// Raises error 5 for an unknown name; writing converts numbers with checks
-// (error 6 on overflow) and rejects a number for a text (error 13).
 Value readVar(const ModVars& vars, std::string_view name);
 void writeVar(ModVars& vars, std::string_view name, const Value& value);
+Value readVar(const ModVars& vars, const SharedVariable& v);
+void writeVar(ModVars& vars, const SharedVariable& v, const Value& value);
 
 }  // namespace brelk

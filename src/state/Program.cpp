@@ -4,21 +4,17 @@
 #include "platform/Errors.h"
 #include "platform/Numbers.h"
 #include "platform/TimerScheduler.h"
-#include "state/Handlers.h"
 
 namespace brelk {
 
 Program::Program(Services& services) : sys(services), frmMain(services.timers) {
     frmMain.setErrorReporter([this](const RuntimeError& e) { reportError(e); });
-    registerRowHandlers(*this);
-    registerClockHandlers(*this);
-    registerMapHandlers(*this);
-    registerLifecycleHandlers(*this);
 }
 
+Program::~Program() = default;
+
 void Program::start() {
-    frmMain.setLoaded(true);
-    frmMain.raiseForm(Event::Load);
+    frmMain.Load();
     if (!ended_) frmMain.self().setVisible(true);
 }
 

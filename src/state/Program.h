@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "platform/Platform.h"
@@ -11,18 +12,23 @@ namespace brelk {
 
 class RuntimeError;
 
-// One running program: the shared variables, the main window and the platform
-// services it runs on. Every procedure and handler works on one of these; a
-// test builds a fresh one.
+// One running program: the shared variables, the main window, the two
+// modal windows while they are open, and the platform services it runs on.
+// Every procedure and handler works on one of these; a test builds a fresh
+// one.
 class Program {
 public:
     explicit Program(Services& services);
+    virtual ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     Services& sys;
     ModVars vars;
     MainForm frmMain;
+    // Made anew at each opening, gone once closed.
+    std::unique_ptr<Form> frmOptions;
+    std::unique_ptr<Form> frmAbout;
 
     // Opens the main window: its Load event.
     void start();

@@ -1,6 +1,7 @@
 #include "timers/Blink.h"
 
 #include "platform/Numbers.h"
+#include "state/Markers.h"
 #include "state/Program.h"
 #include "timers/Countdown.h"
 
@@ -24,8 +25,8 @@ void timerClick_Timer(Program& p, std::int16_t Index) {
     const double left = num::leadingValue(blink.tag()) - 1;
     blink.setTag(num::plainText(left));
     if (left <= 0) {
-        const bool idle = f.lblTimer(Index).caption() == "00:00" && !f.timerFlash(Index).enabled();
-        blink.setTag(idle ? "3" : "2");
+        const bool idle = f.lblTimer(Index).caption() == kZeroTime && !f.timerFlash(Index).enabled();
+        blink.setTag(idle ? mark::Ready : mark::Started);
         blink.setEnabled(false);
         // Two blinks that overlapped (a start, then the end of the match) would
         // otherwise end with the row hidden.

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "clock/MatchClock.h"
 #include "platform/Dialogs.h"
 #include "platform/Numbers.h"
+#include "state/ClockReading.h"
+#include "state/Markers.h"
 #include "state/Program.h"
 #include "state/TimeText.h"
 #include "timers/Blink.h"
@@ -12,8 +13,6 @@
 namespace brelk {
 
 namespace {
-
-constexpr const char* kIdle = "00:00";
 
 // The next respawn reading, worked out once at the start: the match clock
 // plus the delay when it counts up, minus the delay when it counts down,
@@ -41,14 +40,14 @@ void TimerInit(Program& p, std::int16_t item) {
     timer.setNumber(Prop::ForeColor, v.IdleTimerColor);
     timer.setNumber(Prop::FontSize, 8);
     timer.setVisible(true);
-    timer.setCaption(kIdle);
+    timer.setCaption(kZeroTime);
 
     Control& global = f.lblTimerGlobal(item);
     global.setFlag(Prop::FontBold, num::isTrue(v.IdleTimerBold));
     global.setNumber(Prop::ForeColor, v.IdleTimerColor);
     global.setNumber(Prop::FontSize, 8);
-    global.setVisible(v.MatchState == "going" ? false : num::isTrue(v.ShowItemsTimers));
-    global.setCaption(kIdle);
+    global.setVisible(v.MatchState == match::Going ? false : num::isTrue(v.ShowItemsTimers));
+    global.setCaption(kZeroTime);
 
     Control& name = f.lblItem(item);
     name.setNumber(Prop::ForeColor, v.IdleItemColor);
@@ -59,7 +58,7 @@ void TimerInit(Program& p, std::int16_t item) {
     f.timerClick(item).setEnabled(false);
 
     f.timerFlash(item).setTag(num::plainText(v.LastFlash));
-    f.timerClick(item).setTag("3");
+    f.timerClick(item).setTag(mark::Ready);
 
     // A blink cut short would leave the row half hidden.
     if (wasBlinking) restoreRowAfterBlink(p, item);
@@ -75,8 +74,8 @@ void DeclencheTimer(Program& p, std::int16_t item) {
     }
     if (!isCompleteRow(p, item)) return;
 
-    if (num::leadingValue(f.timerClick(item).tag()) == 2) {
-        if (f.lblTimer(item).caption() != kIdle) f.timerItem(item).setEnabled(true);
+    if (num::leadingValue(f.timerClick(item).tag()) == mark::StartedValue) {
+        if (f.lblTimer(item).caption() != kZeroTime) f.timerItem(item).setEnabled(true);
         return;
     }
 
@@ -111,7 +110,7 @@ void DeclencheTimer(Program& p, std::int16_t item) {
         }
         TimerReset(p, item);
     }
-    f.timerClick(item).setTag("2");
+    f.timerClick(item).setTag(mark::Started);
 }
 
 void PauseTimer(Program& p, const std::string& Index) {

@@ -1,6 +1,7 @@
 #include "timers/Flash.h"
 
 #include "platform/Numbers.h"
+#include "state/Markers.h"
 #include "state/Program.h"
 #include "timers/Countdown.h"
 
@@ -12,7 +13,7 @@ void timerFlash_Timer(Program& p, std::int16_t Index) {
     label.setVisible(!label.visible());
     Control& flash = f.timerFlash(Index);
     double left = num::leadingValue(flash.tag());
-    if (p.vars.MatchState != "paused") {
+    if (p.vars.MatchState != match::Paused) {
         left -= 1;
         flash.setTag(num::plainText(left));
     }

@@ -7,7 +7,7 @@
 
 #include "MainWindow.h"
 #include "Twips.h"
-#include "state/Program.h"
+#include "forms/Brelk.h"
 
 namespace brelk::view {
 
@@ -29,7 +29,7 @@ BrelkApp::BrelkApp(AppInfo app)
     : dialogs_([this](const std::function<void()>& a) { return input_(a); }) {
     const Guard program = [this](const std::function<void()>& a) { return program_->guarded(a); };
     services_ = std::make_unique<Services>(Services{clock_, dialogs_, windows_, std::move(app), screenWidthTwips()});
-    program_ = std::make_unique<Program>(*services_);
+    program_ = std::make_unique<Brelk>(*services_);
     // The end is at once: no window is asked whether it may close.
     program_->setEndListener([] { QCoreApplication::exit(0); });
     driver_ = std::make_unique<RealTimeDriver>(clock_, program);

@@ -249,6 +249,8 @@ void FormView::focusChanged(Control* now) {
     if (w->focusPolicy() != Qt::NoFocus && !w->hasFocus()) w->setFocus(Qt::OtherFocusReason);
 }
 
+void FormView::formUnloaded() { emit unloaded(); }
+
 void FormView::formChanged(Prop p) {
     const Control& self = form().self();
     switch (p) {
@@ -364,6 +366,11 @@ void FormView::closeEvent(QCloseEvent* e) {
         const bool going = context_.run([&] { form().raiseForm(Event::Unload); });
         if (going) return e->ignore();
     }
+    // A dialog closed by the window system is left as by Esc: its Cancel
+    // button decides, and the window goes when the form is unloaded.
+    bool pressed = false;
+    context_.run([&] { pressed = form().pressCancel(); });
+    if (pressed) return e->ignore();
     emit closedByUser();
     QWidget::closeEvent(e);
 }

@@ -41,7 +41,10 @@ public:
     std::function<void()> onFirstPaint;
 
 signals:
-    // The window system closed a form that has no Unload handler.
+    // The form has been unloaded: its window is to go.
+    void unloaded();
+    // The window system closed a form that has no Unload handler and no
+    // Cancel button to press.
     void closedByUser();
 
 protected:
@@ -61,6 +64,7 @@ private:
     void propertyChanged(Control& c, Prop p) override;
     void zOrderChanged(Control& c) override;
     void focusChanged(Control* now) override;
+    void formUnloaded() override;
 
     void build();
     ControlView* createView(Control& c);

@@ -10,7 +10,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QProcess>
-#include <QTimer>
 #include <QUrl>
 
 #include "Twips.h"
@@ -92,18 +91,16 @@ Control* QtDialogs::popupMenu(Form& form, Control& menu) {
 }
 
 void QtDialogs::showModal(Form& form) {
+    if (!form.isLoaded()) return;
     FormView window(form, guard_);
     window.setWindowFlags(Qt::Dialog);
     window.setWindowModality(Qt::ApplicationModal);
     window.show();
+    // The wait ends when the form unloads itself, or when the window system
+    // closes a window that has no way of its own to end.
     QEventLoop loop;
+    QObject::connect(&window, &FormView::unloaded, &loop, &QEventLoop::quit);
     QObject::connect(&window, &FormView::closedByUser, &loop, &QEventLoop::quit);
-    // The form closes itself by unloading: watch for that.
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &loop, [&] {
-        if (!form.isLoaded()) loop.quit();
-    });
-    watch.start(50);
     loop.exec();
 }
 

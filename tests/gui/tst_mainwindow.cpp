@@ -20,8 +20,8 @@
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/TimerScheduler.h"
-#include "state/Lifecycle.h"
-#include "state/Program.h"
+#include "forms/Brelk.h"
+#include "forms/Lifecycle.h"
 
 using namespace brelk;
 
@@ -132,7 +132,7 @@ private slots:
         dialogs_.dir = dir_.path().toStdString();
         services_ = std::make_unique<Services>(
             Services{clock_, dialogs_, windows_, AppInfo{dir_.path().toStdString(), "brelk", 1, 0, 0}, 19200});
-        program_ = std::make_unique<Program>(*services_);
+        program_ = std::make_unique<Brelk>(*services_);
         window_ = view::createMainWindow(f(), [this](const std::function<void()>& a) { return program_->guarded(a); });
         windows_.setMainWindow(window_.get());
         program_->guarded([&] { program_->start(); });

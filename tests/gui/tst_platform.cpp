@@ -19,6 +19,7 @@
 #include "RealTimeDriver.h"
 #include "platform/Form.h"
 #include "platform/TimerScheduler.h"
+#include "forms/MainDesign.h"
 #include "state/MainForm.h"
 
 using namespace brelk;
@@ -49,7 +50,10 @@ class QtPlatformTest : public QObject {
     view::QtDialogs dialogs_{plain_};
 
 private slots:
-    void init() { form_ = std::make_unique<MainForm>(clock_); }
+    void init() {
+        form_ = std::make_unique<MainForm>(clock_);
+        designMainForm(*form_);
+    }
 
     void messageBoxesHaveTheirTitlesButtonsAndIcons() {
         struct Row { int style; QString title; int buttons, icon, press, result; };

@@ -18,7 +18,7 @@
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "platform/TimerScheduler.h"
-#include "state/Program.h"
+#include "forms/Brelk.h"
 
 namespace fs = std::filesystem;
 
@@ -76,6 +76,14 @@ public:
         dialogs_.emplace(clock_, dir_);
         services_.emplace(Services{clock_, *dialogs_, windows_, AppInfo{dir_, "Brelk", 1, 0, 0}, 19200});
         program_.emplace(*services_);
+        // A modal form takes the following commands until it is unloaded;
+        // then the action that opened it goes on.
+        dialogs_->whileModal = [this](Form& form) {
+            const std::size_t opener = lineNo_;
+            runLines([&] { return form.isLoaded() && !program_->ended(); });
+            lineNo_ = opener;
+            if (program_->ended()) throw ProgramEnded{};
+        };
     }
     ~Run() {
         program_.reset();
@@ -90,47 +98,51 @@ public:
             ++tally_.broken;
             return tally_;
         }
-        std::vector<std::string> lines;
         for (std::string l; std::getline(in, l);) {
             if (!l.empty() && l.back() == '\r') l.pop_back();
-            lines.push_back(l);
+            lines_.push_back(l);
         }
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            lineNo_ = i + 1;
-            const std::string& raw = lines[i];
-            const auto first = raw.find_first_not_of(" \t");
-            if (first == std::string::npos || raw[first] == '#') continue;
-            try {
-                std::vector<Token> t = tokenize(raw);
-                const std::string& cmd = t[0].text;
-                if (!t[0].quoted && (cmd == "file" || cmd == "profile" || (cmd == "expect" && t.size() == 4 &&
-                                                                             t[1].text == "file" && t[3].text == "lines"))) {
-                    std::vector<std::string> block;
-                    std::size_t j = i + 1;
-                    for (; j < lines.size() && lines[j] != "end"; ++j) block.push_back(lines[j]);
-                    if (j >= lines.size()) throw LineError("no line 'end' closes this block");
-                    i = j;
-                    if (cmd == "expect") expectLines(t[2].text, block);
-                    else writeBlock(cmd == "profile" ? "Brelk.ini" : word(t, 1), block);
-                    continue;
-                }
-                command(t);
-            } catch (const LineError& e) {
-                broken(e.what());
-            } catch (const NotAvailable& e) {
-                broken(e.what);
-            } catch (const RuntimeError& e) {
-                broken("run-time error " + std::to_string(e.number()) + ": " + e.what());
-            } catch (const std::exception& e) {
-                broken(e.what());
-            }
-            reportDialogProblems();
-        }
+        runLines([] { return true; });
         out_ << file_ << ": " << tally_.passed << " passed, " << tally_.failed + tally_.broken << " failed\n";
         return tally_;
     }
 
 private:
+    // Runs the lines from the next one on, while `going` holds.
+    void runLines(const std::function<bool()>& going) {
+        while (next_ < lines_.size() && going()) runLine(next_++);
+    }
+
+    void runLine(std::size_t i) {
+        lineNo_ = i + 1;
+        const std::string& raw = lines_[i];
+        const auto first = raw.find_first_not_of(" \t");
+        if (first == std::string::npos || raw[first] == '#') return;
+        try {
+            std::vector<Token> t = tokenize(raw);
+            const std::string& cmd = t[0].text;
+            if (!t[0].quoted && (cmd == "file" || cmd == "profile" ||
+                                 (cmd == "expect" && t.size() == 4 && t[1].text == "file" && t[3].text == "lines"))) {
+                std::vector<std::string> block;
+                std::size_t j = i + 1;
+                for (; j < lines_.size() && lines_[j] != "end"; ++j) block.push_back(lines_[j]);
+                if (j >= lines_.size()) throw LineError("no line 'end' closes this block");
+                next_ = j + 1;
+                if (cmd == "expect") expectLines(t[2].text, block);
+                else writeBlock(cmd == "profile" ? "Brelk.ini" : word(t, 1), block);
+                return;
+            }
+            command(t);
+        } catch (const LineError& e) {
+            broken(e.what());
+        } catch (const RuntimeError& e) {
+            broken("run-time error " + std::to_string(e.number()) + ": " + e.what());
+        } catch (const std::exception& e) {
+            broken(e.what());
+        }
+        reportDialogProblems();
+    }
+
     void broken(const std::string& why) {
         ++tally_.broken;
         out_ << file_ << ":" << lineNo_ << ": cannot run: " << why << "\n";
@@ -179,7 +191,9 @@ private:
 
     Form& formNamed(const std::string& name) {
         if (name == "frmMain") return program_->frmMain;
-        throw LineError(name + " is not available yet");
+        const auto& modal = name == "frmOptions" ? program_->frmOptions : program_->frmAbout;
+        if (!modal || !modal->isLoaded()) throw LineError(name + " is not open");
+        return *modal;
     }
     static bool isFormName(const std::string& s) { return s == "frmMain" || s == "frmOptions" || s == "frmAbout"; }
 
@@ -563,8 +577,10 @@ private:
     ScriptedWindows windows_;
     std::optional<ScriptedDialogs> dialogs_;
     std::optional<Services> services_;
-    std::optional<Program> program_;
+    std::optional<Brelk> program_;
     Tally tally_;
+    std::vector<std::string> lines_;
+    std::size_t next_ = 0;  // the next line to run
     std::size_t lineNo_ = 0;
 };
 

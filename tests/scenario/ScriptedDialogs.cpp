@@ -60,7 +60,7 @@ Control* ScriptedDialogs::popupMenu(Form& form, Control& menu) {
 }
 
 void ScriptedDialogs::showModal(Form& form) {
-    throw NotAvailable{form.name() + " is not available yet"};
+    if (form.isLoaded() && whileModal) whileModal(form);
 }
 
 }  // namespace brelk::scenario

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -42,6 +43,9 @@ public:
     std::optional<std::string> lastPopup;
     // Problems met while answering (a two-button box with no answer, ...).
     std::vector<std::string> problems;
+    // Runs the script's next commands while a modal form is open, until the
+    // form is unloaded.
+    std::function<void(Form&)> whileModal;
 
     int msgBox(const std::string& prompt, int style, const std::string& title) override;
     std::string inputBox(const std::string& prompt, const std::string& title,
@@ -67,9 +71,5 @@ public:
     void shell(const std::string& command) override { shellCommands.push_back(command); }
 };
 
-// Thrown where the program reaches a part that is not built yet.
-struct NotAvailable {
-    std::string what;
-};
 
 }  // namespace brelk::scenario

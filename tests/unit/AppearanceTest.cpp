@@ -7,7 +7,9 @@
 #include "ProgramDoubles.h"
 #include "map/Layout.h"
 #include "platform/Errors.h"
-#include "settings/Appearance.h"
+#include "clock/MatchClock.h"
+#include "map/ListLook.h"
+#include "timers/RowLook.h"
 
 using namespace brelk;
 using brelk::testing::ProgramTest;

@@ -6,7 +6,7 @@
 #include "ProgramDoubles.h"
 #include "platform/Errors.h"
 #include "platform/Events.h"
-#include "state/Lifecycle.h"
+#include "forms/Lifecycle.h"
 
 using namespace brelk;
 using brelk::testing::ProgramTest;

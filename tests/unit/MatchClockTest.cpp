@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "clock/MatchClock.h"
+#include "state/ClockReading.h"
 #include "state/ModVars.h"
 
 using namespace brelk;

@@ -20,7 +20,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Platform.h"
 #include "platform/TimerScheduler.h"
-#include "state/Program.h"
+#include "forms/Brelk.h"
 
 namespace brelk::testing {
 
@@ -78,7 +78,7 @@ struct ProgramTest : ::testing::Test {
         dir = mkdtemp(templ.data());
         dialogs.dir = dir;
         services = std::make_unique<Services>(Services{timers, dialogs, windows, AppInfo{dir, "Brelk"}});
-        program = std::make_unique<Program>(*services);
+        program = std::make_unique<Brelk>(*services);
     }
     void TearDown() override {
         program.reset();

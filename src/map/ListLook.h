@@ -4,13 +4,12 @@ namespace brelk {
 
 class Program;
 
-// Carry the live settings onto the main window, over what it shows now.
+// Carry the live settings onto the window's background, the row strips, the
+// category headers and the map name, over what they show now.
 void ChangeFormColor(Program& p);
 void ChangeListColor(Program& p);
 void ItemBackground(Program& p, bool test);
-void ChangeMapNameColor(Program& p);
-void ChangeTimerColor(Program& p);
 void ChangeCategoryColor(Program& p);
-void ChangeGlobalTimerColor(Program& p);
+void ChangeMapNameColor(Program& p);
 
 }  // namespace brelk

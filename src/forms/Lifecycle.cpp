@@ -1,16 +1,17 @@
-#include "state/Lifecycle.h"
+#include "forms/Lifecycle.h"
 
 #include <cstdint>
 #include <string>
 
+#include "clock/MatchClock.h"
+#include "map/ListLook.h"
 #include "map/Loader.h"
 #include "platform/Dialogs.h"
 #include "platform/Events.h"
 #include "platform/Numbers.h"
-#include "settings/Appearance.h"
 #include "settings/Settings.h"
-#include "state/Handlers.h"
 #include "state/Program.h"
+#include "timers/RowLook.h"
 
 namespace brelk {
 
@@ -85,13 +86,5 @@ void cmdPopup_Click(Program& p) {
 void AlwaysOnTop(Program& p, int Top) { SetWindowTopmost(p, Top == num::True ? 1 : 0); }
 
 void SetWindowTopmost(Program& p, int topmost) { p.sys.windows.setTopmost(p.frmMain, topmost != 0); }
-
-void registerLifecycleHandlers(Program& p) {
-    auto& f = p.frmMain;
-    f.on("frmMain", Event::Load, [&p](const EventArgs&) { Form_Load(p); });
-    f.on("frmMain", Event::Unload, [&p](const EventArgs&) { Form_Unload(p); });
-    f.on("mnuExit", Event::Click, [&p](const EventArgs&) { mnuExit_Click(p); });
-    f.on("cmdPopup", Event::Click, [&p](const EventArgs&) { cmdPopup_Click(p); });
-}
 
 }  // namespace brelk
