@@ -4,7 +4,7 @@
 #include "platform/Form.h"
 #include "platform/TimerScheduler.h"
 
-namespace brelk::scenario {
+namespace brelk::doubles {
 
 std::optional<Answer> ScriptedDialogs::take(std::deque<Answer>& queue) {
     if (queue.empty()) return std::nullopt;
@@ -63,4 +63,4 @@ void ScriptedDialogs::showModal(Form& form) {
     if (form.isLoaded() && whileModal) whileModal(form);
 }
 
-}  // namespace brelk::scenario
+}  // namespace brelk::doubles

@@ -14,7 +14,7 @@ namespace brelk {
 class TimerScheduler;
 }
 
-namespace brelk::scenario {
+namespace brelk::doubles {
 
 // A message box as the program showed it.
 struct ShownBox {
@@ -72,4 +72,4 @@ public:
 };
 
 
-}  // namespace brelk::scenario
+}  // namespace brelk::doubles
