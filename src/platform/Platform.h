@@ -15,6 +15,7 @@ struct AppInfo {
     int major = 1;
     int minor = 0;
     int revision = 0;
+    std::string mapDir;   // folder of the maps, where the open dialog starts; empty: path
 };
 
 // Window-system operations that are not about one control.
