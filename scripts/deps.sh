@@ -2,7 +2,7 @@
 # Installs the Debian packages Brelk needs to build, test and run, when missing.
 set -euo pipefail
 
-packages=(cmake g++ make libgtest-dev qt6-base-dev libgl-dev fonts-liberation)
+packages=(cmake g++ make libgtest-dev qt6-base-dev qt6-svg-dev libgl-dev fonts-liberation)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
