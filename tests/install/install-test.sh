@@ -12,8 +12,15 @@ prefix=$work/prefix
 
 fail() { echo "FAIL: $*"; [ -f "$work/brelk.log" ] && sed 's/^/  brelk: /' "$work/brelk.log"; exit 1; }
 
+pid=
+# Whatever the outcome, no program is left running and the build tree stays removable.
+cleanup() {
+  if [ -n "$pid" ]; then kill "$pid" 2> /dev/null || true; fi
+  chmod -R u+w "$work" 2> /dev/null || true
+}
 [ -d "$work" ] && chmod -R u+w "$work"
 rm -rf "$work"
+trap cleanup EXIT
 mkdir -p "$work/home" "$work/runtime"
 chmod 700 "$work/runtime"
 cmake --install "$build" --prefix "$prefix" > /dev/null
@@ -39,7 +46,7 @@ counts() { tr -d '\r' 2> /dev/null < "$1" | grep -qx "Launched=$2"; }
 start() {
   local profile=$1 count=$2
   "${run[@]}" "$prefix/bin/brelk" > "$work/brelk.log" 2>&1 &
-  local pid=$!
+  pid=$!
   for _ in $(seq 300); do
     counts "$profile" "$count" && break
     kill -0 "$pid" 2> /dev/null || fail "brelk ended before $profile counted start $count"
@@ -47,6 +54,7 @@ start() {
   done
   kill "$pid" 2> /dev/null || true
   wait "$pid" 2> /dev/null || true
+  pid=
   counts "$profile" "$count" || fail "$profile does not count start $count"
 }
 
