@@ -10,11 +10,12 @@ class TimerScheduler;
 
 // What the program knows of its executable.
 struct AppInfo {
-    std::string path;     // directory of the executable, no trailing separator
+    std::string path;     // folder of the profile file and option sets (beside the executable when portable), no trailing separator
     std::string exeName;  // file name without its extension: the profile file's base
     int major = 1;
     int minor = 0;
     int revision = 0;
+    std::string mapDir;   // folder of the maps, where the open dialog starts; empty: path
 };
 
 // Window-system operations that are not about one control.

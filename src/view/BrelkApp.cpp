@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "Locations.h"
 #include "MainWindow.h"
 #include "Twips.h"
 #include "forms/Brelk.h"
@@ -12,8 +13,10 @@
 namespace brelk::view {
 
 AppInfo executableInfo() {
-    return AppInfo{QCoreApplication::applicationDirPath().toStdString(),
-                   QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString(), 1, 0, 0};
+    const install::Locations where = install::programLocations(QCoreApplication::applicationDirPath());
+    return AppInfo{where.settingsDir.toStdString(),
+                   QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString(), 1, 0, 0,
+                   where.mapDir.toStdString()};
 }
 
 namespace {

@@ -35,7 +35,8 @@ std::string ScriptedDialogs::inputBox(const std::string&, const std::string&, co
     return answer && !answer->cancel ? answer->value : std::string();
 }
 
-std::optional<OpenFileResult> ScriptedDialogs::openFile(const OpenFileRequest&) {
+std::optional<OpenFileResult> ScriptedDialogs::openFile(const OpenFileRequest& request) {
+    lastOpen = request;
     const auto answer = take(openAnswers);
     if (!answer || answer->cancel) return std::nullopt;
     return OpenFileResult{files::join(dir_, answer->value), answer->value};

@@ -41,6 +41,7 @@ public:
     std::deque<Answer> openAnswers, msgboxAnswers, inputAnswers, colorAnswers, popupAnswers;
     std::vector<ShownBox> boxes;
     std::optional<std::string> lastPopup;
+    std::optional<OpenFileRequest> lastOpen;
     // Problems met while answering (a two-button box with no answer, ...).
     std::vector<std::string> problems;
     // Runs the script's next commands while a modal form is open, until the

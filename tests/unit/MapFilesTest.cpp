@@ -72,4 +72,12 @@ TEST_F(MapFiles, TheLargestListLoadsWholeAndLine32768IsReportedAs32767) {
     EXPECT_EQ(p.vars.ItemCount, 1);
 }
 
+TEST_F(MapFiles, TheOpenDialogStartsInTheMapsFolderOfAnInstallOrBesideTheProfile) {
+    mnuLoad_Click(p);
+    EXPECT_EQ(dialogs.lastOpen->initDir, dir);
+    services.app.mapDir = dir + "/maps";
+    mnuLoad_Click(p);
+    EXPECT_EQ(dialogs.lastOpen->initDir, dir + "/maps");
+}
+
 }  // namespace
