@@ -3,6 +3,7 @@
 #include "clock/MatchClock.h"
 #include "clock/TunePanel.h"
 #include "forms/Lifecycle.h"
+#include "forms/OptionsMenu.h"
 #include "map/Loader.h"
 #include "platform/Events.h"
 #include "state/Program.h"
@@ -30,6 +31,7 @@ void wireMainForm(Program& p) {
     f.on("frmMain", Event::Unload, plain(p, Form_Unload));
     f.on("cmdPopup", Event::Click, plain(p, cmdPopup_Click));
     f.on("mnuLoad", Event::Click, plain(p, mnuLoad_Click));
+    f.on("mnuOptions", Event::Click, plain(p, mnuOptions_Click));
     f.on("mnuExit", Event::Click, plain(p, mnuExit_Click));
     f.on("lblMapName", Event::DblClick, plain(p, mnuLoad_Click));
 

@@ -36,6 +36,12 @@ struct OpenFileResult {
     std::string fileTitle;  // the name without its path
 };
 
+// The colour dialog as a common dialog control asks for it.
+struct ColorRequest {
+    std::string title;
+    std::int32_t start = 0;  // 0x00BBGGRR, the colour the dialog starts on
+};
+
 // Every modal interaction of the program: message boxes, the input box, the
 // open-file and colour dialogs, popup menus and modal forms. While one is open
 // the caller waits and timer ticks go on arriving.
@@ -48,7 +54,11 @@ public:
     virtual std::string inputBox(const std::string& prompt, const std::string& title,
                                  const std::string& defaultText) = 0;
     virtual std::optional<OpenFileResult> openFile(const OpenFileRequest& request) = 0;
+    // The colour dialog without a title of its own: the chosen colour
+    // (0x00BBGGRR), or nullopt when cancelled.
     virtual std::optional<std::int32_t> chooseColor(std::int32_t start) = 0;
+    // The same with the title the program gives it.
+    virtual std::optional<std::int32_t> showColor(const ColorRequest& request) { return chooseColor(request.start); }
     // Shows `menu`'s visible entries; returns the chosen entry, or nullptr when dismissed.
     virtual Control* popupMenu(Form& form, Control& menu) = 0;
     // Shows a form modally; returns when the form has been unloaded.

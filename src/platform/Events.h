@@ -24,6 +24,10 @@ constexpr int Middle = 4;
 namespace key {
 constexpr int Return = 13;
 constexpr int Escape = 27;
+constexpr int Left = 37;
+constexpr int Up = 38;
+constexpr int Right = 39;
+constexpr int Down = 40;
 }  // namespace key
 
 // What an event hands to its handler. `index` is the member's index in its

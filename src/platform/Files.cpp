@@ -6,6 +6,7 @@
 
 #include <cerrno>
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <filesystem>
@@ -14,6 +15,7 @@
 #include <system_error>
 
 #include "platform/Errors.h"
+#include "platform/Numbers.h"
 
 namespace fs = std::filesystem;
 
@@ -180,8 +182,16 @@ std::string DirLister::first(const std::string& dir, const std::string& pattern)
     for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
         if (!it->is_regular_file(ec)) continue;
         const std::string name = it->path().filename().string();
+        // Normal files only: a name starting with a dot is a hidden file.
+        if (name.front() == '.') continue;
         if (matchesPattern(name, pattern)) names_.push_back(name);
     }
+    // In the order of the file system the program was made for: by name,
+    // capitals and small letters alike.
+    std::sort(names_.begin(), names_.end(), [](const std::string& a, const std::string& b) {
+        const std::string ua = num::upper(a), ub = num::upper(b);
+        return ua != ub ? ua < ub : a < b;
+    });
     return next();
 }
 

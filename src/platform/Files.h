@@ -45,7 +45,9 @@ std::string windows1252ToUtf8(const std::string& bytes);
 // shorter); a byte that starts no valid sequence counts as one character.
 std::size_t utf8PrefixBytes(std::string_view text, std::size_t chars);
 
-// Directory listing by pattern, in the order the file system gives.
+// Directory listing by pattern, of normal files only (no folders, no hidden
+// files), in the order of the file system the program was made for: by name,
+// capitals and small letters alike.
 class DirLister {
 public:
     // First name matching `pattern` ("*.set") in `dir`, or "".

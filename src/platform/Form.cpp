@@ -177,23 +177,35 @@ void Form::setFocus(Control* c) {
     if (c) raise(*c, Event::GotFocus);
 }
 
-bool Form::pressDefault() {
+void Form::dropFocus() {
+    focus_ = nullptr;
+    for (auto* o : observers_) o->focusChanged(nullptr);
+}
+
+namespace {
+
+// Shown on the form: the control and every box around it are visible.
+bool isShown(const Control& c) {
+    for (const Control* x = &c; x; x = x->container())
+        if (x->has(Prop::Visible) && !x->visible()) return false;
+    return true;
+}
+
+}  // namespace
+
+bool Form::pressButton(Prop flag) {
     for (Control* c : controls())
-        if (c->kind() == ControlKind::CommandButton && c->flag(Prop::Default) && c->enabled()) {
+        if (c->kind() == ControlKind::CommandButton && c->flag(flag) && c->enabled()) {
+            if (isShown(*c)) setFocus(c);
             click(*c);
             return true;
         }
     return false;
 }
 
-bool Form::pressCancel() {
-    for (Control* c : controls())
-        if (c->kind() == ControlKind::CommandButton && c->flag(Prop::Cancel) && c->enabled()) {
-            click(*c);
-            return true;
-        }
-    return false;
-}
+bool Form::pressDefault() { return pressButton(Prop::Default); }
+
+bool Form::pressCancel() { return pressButton(Prop::Cancel); }
 
 void Form::Load() {
     loaded_ = true;

@@ -84,7 +84,11 @@ public:
     void dblClick(Control& c);
     void setFocus(Control* c);
     Control* focus() const { return focus_; }
-    // Enter and Esc press the Default and Cancel buttons.
+    // Nothing has the focus any more, and no event tells of it.
+    void dropFocus();
+    // Enter and Esc press the Default and Cancel buttons. A button that is
+    // shown takes the focus first, as a click gives it, so that a text box
+    // being edited gives up its text before the button acts.
     bool pressDefault();
     bool pressCancel();
 
@@ -116,6 +120,7 @@ private:
     };
     Control& insert(ControlKind kind, const std::string& name, std::optional<std::int16_t> index,
                     Control* container);
+    bool pressButton(Prop flag);
 
     TimerScheduler& timers_;
     std::unique_ptr<Control> self_;

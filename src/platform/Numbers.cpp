@@ -281,6 +281,13 @@ std::string trimRight(std::string_view text) {
     return std::string(text.substr(0, i + 1));
 }
 
+std::string withoutEvery(std::string_view text, std::string_view part) {
+    std::string out(text);
+    if (part.empty()) return out;
+    for (std::size_t at = 0; (at = out.find(part, at)) != std::string::npos;) out.erase(at, part.size());
+    return out;
+}
+
 int charCount(std::string_view text) {
     int n = 0;
     for (char c : text) {

@@ -64,6 +64,9 @@ std::string trim(std::string_view text);
 std::string trimLeft(std::string_view text);
 std::string trimRight(std::string_view text);
 
+// The text with every occurrence of `part` removed, from left to right.
+std::string withoutEvery(std::string_view text, std::string_view part);
+
 // Number of characters (Unicode code points) of UTF-8 text.
 int charCount(std::string_view text);
 

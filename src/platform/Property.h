@@ -30,4 +30,11 @@ constexpr int Right = 1;
 constexpr int Center = 2;
 }  // namespace align
 
+// BorderStyle values of forms and labels.
+namespace border {
+constexpr int None = 0;
+constexpr int FixedSingle = 1;
+constexpr int FixedToolWindow = 4;
+}  // namespace border
+
 }  // namespace brelk

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
+#include <QStyleOptionGroupBox>
 
 #include "ItemIcons.h"
 #include "Twips.h"
@@ -78,20 +79,17 @@ void BoxView::paintEvent(QPaintEvent*) {
         style()->drawPrimitive(QStyle::PE_Frame, &option, &painter, this);
         return;
     }
-    // A frame: an etched rectangle whose top line runs through the caption.
-    const QString caption = displayText(*control_);
-    const QFontMetrics metrics(font());
-    const int middle = metrics.height() / 2;
-    const QRect box = rect().adjusted(0, middle, -1, -1);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(box);
-    painter.setPen(palette().color(QPalette::Light));
-    painter.drawRect(box.adjusted(1, 1, 1, 1));
-    if (caption.isEmpty()) return;
-    const QRect text(8, 0, metrics.horizontalAdvance(caption) + 4, metrics.height());
-    painter.fillRect(text, toColor(control_->number(Prop::BackColor)));
-    painter.setPen(toColor(control_->number(Prop::ForeColor)));
-    painter.drawText(text, Qt::AlignCenter, caption);
+    // A frame: the style's group box, its caption on the top line.
+    QStyleOptionGroupBox option;
+    option.initFrom(this);
+    option.text = displayText(*control_);
+    option.textAlignment = Qt::AlignLeft;
+    option.textColor = toColor(control_->number(Prop::ForeColor));
+    option.subControls = QStyle::SC_GroupBoxFrame;
+    if (!option.text.isEmpty()) option.subControls |= QStyle::SC_GroupBoxLabel;
+    option.lineWidth = 1;
+    option.midLineWidth = 0;
+    style()->drawComplexControl(QStyle::CC_GroupBox, &option, &painter, this);
 }
 
 }  // namespace brelk::view

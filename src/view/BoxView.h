@@ -8,8 +8,8 @@
 namespace brelk::view {
 
 // A picture box or a frame: a plain container on its back colour, with a
-// sunken border (picture box with BorderStyle 1) or an etched one under its
-// caption (frame). Hiding it hides all it contains.
+// sunken border (picture box with BorderStyle 1), or drawn as the style's
+// group box with its caption (frame). Hiding it hides all it contains.
 class BoxView : public QWidget, public ControlView {
 public:
     BoxView(Control& control, const ViewContext& context, QWidget* parent);

@@ -21,6 +21,8 @@ ButtonView::ButtonView(Control& control, const ViewContext& context, QWidget* pa
 void ButtonView::apply(Prop p) {
     // "&" marks the key of the button, as on the buttons of any dialog.
     if (p == Prop::Caption) setText(QString::fromStdString(control_->caption()));
+    // The button that Enter presses looks it.
+    if (p == Prop::Default) setDefault(control_->flag(Prop::Default));
 }
 
 void ButtonView::paintEvent(QPaintEvent*) {

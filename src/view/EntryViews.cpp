@@ -1,5 +1,7 @@
 #include "EntryViews.h"
 
+#include <algorithm>
+
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -41,7 +43,12 @@ void TextBoxView::apply(Prop p) {
         if (text != this->text()) setText(text);
         break;
     }
-    case Prop::SelStart: setCursorPosition(static_cast<int>(control_->number(Prop::SelStart))); break;
+    case Prop::SelStart: {
+        // A caret beyond the text stands at its end.
+        const double at = std::clamp(control_->number(Prop::SelStart), 0.0, static_cast<double>(text().size()));
+        setCursorPosition(static_cast<int>(at));
+        break;
+    }
     case Prop::Alignment: {
         const int a = static_cast<int>(control_->number(Prop::Alignment));
         setAlignment((a == align::Right ? Qt::AlignRight : a == align::Center ? Qt::AlignHCenter : Qt::AlignLeft) |
@@ -91,8 +98,30 @@ void OptionView::apply(Prop p) {
 }
 
 void OptionView::focusInEvent(QFocusEvent* e) {
+    // Reached by Tab but not chosen: the focus goes on past this button.
+    if (!isChecked() && (e->reason() == Qt::TabFocusReason || e->reason() == Qt::BacktabFocusReason)) {
+        focusNextPrevChild(e->reason() == Qt::TabFocusReason);
+        return;
+    }
     QRadioButton::focusInEvent(e);
     tellFocus(context_, control_);
+}
+
+void OptionView::keyPressEvent(QKeyEvent* e) {
+    const int key = e->key();
+    if (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_Left && key != Qt::Key_Right)
+        return QRadioButton::keyPressEvent(e);
+    // The buttons of this box in their order; the arrow chooses the neighbour.
+    QList<OptionView*> group;
+    for (QObject* o : parentWidget()->children())
+        if (auto* option = dynamic_cast<OptionView*>(o); option && option->isVisible() && option->isEnabled())
+            group.append(option);
+    const qsizetype here = group.indexOf(this);
+    if (group.size() < 2 || here < 0) return;
+    const qsizetype step = key == Qt::Key_Up || key == Qt::Key_Left ? -1 : 1;
+    OptionView* next = group[(here + step + group.size()) % group.size()];
+    next->setFocus(Qt::OtherFocusReason);
+    if (Control* c = next->control()) context_.run([&] { c->form().click(*c); });
 }
 
 ComboView::ComboView(Control& control, const ViewContext& context, QWidget* parent)

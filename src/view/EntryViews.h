@@ -22,6 +22,9 @@ protected:
     void keyPressEvent(QKeyEvent* e) override;
 };
 
+// An option button. The buttons of one box are one group, as in any
+// dialog: Tab stops at the chosen one only, and the arrow keys choose the
+// next or the previous one of the box.
 class OptionView : public QRadioButton, public ControlView {
 public:
     OptionView(Control& control, const ViewContext& context, QWidget* parent);
@@ -30,6 +33,7 @@ public:
 protected:
     void apply(Prop p) override;
     void focusInEvent(QFocusEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
 };
 
 class ComboView : public QComboBox, public ControlView {

@@ -1,5 +1,6 @@
 #include "QtDialogs.h"
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QCursor>
 #include <QDesktopServices>
@@ -20,8 +21,23 @@ namespace {
 QString q(const std::string& s) { return QString::fromStdString(s); }
 }  // namespace
 
+class QtDialogs::Over {
+public:
+    explicit Over(QWidget* mainWindow) : window_(QApplication::activeModalWidget()) {
+        if (!window_) window_ = mainWindow;
+    }
+    ~Over() {
+        if (window_ && window_->isVisible()) window_->activateWindow();
+    }
+    QWidget* window() const { return window_; }
+
+private:
+    QPointer<QWidget> window_;
+};
+
 int QtDialogs::msgBox(const std::string& prompt, int style, const std::string& title) {
-    QMessageBox box(parent_);
+    const Over over(parent_);
+    QMessageBox box(over.window());
     box.setWindowTitle(q(title));
     // Plain text: a map line quoted in a message is shown as it is.
     box.setTextFormat(Qt::PlainText);
@@ -52,7 +68,8 @@ int QtDialogs::msgBox(const std::string& prompt, int style, const std::string& t
 
 std::string QtDialogs::inputBox(const std::string& prompt, const std::string& title, const std::string& defaultText) {
     bool ok = false;
-    const QString text = QInputDialog::getText(parent_, q(title), q(prompt), QLineEdit::Normal, q(defaultText), &ok);
+    const Over over(parent_);
+    const QString text = QInputDialog::getText(over.window(), q(title), q(prompt), QLineEdit::Normal, q(defaultText), &ok);
     return ok ? text.toStdString() : std::string();
 }
 
@@ -64,8 +81,11 @@ std::optional<OpenFileResult> QtDialogs::openFile(const OpenFileRequest& request
     return OpenFileResult{path.toStdString(), QFileInfo(path).fileName().toStdString()};
 }
 
-std::optional<std::int32_t> QtDialogs::chooseColor(std::int32_t start) {
-    const QColor chosen = QColorDialog::getColor(toColor(start), parent_);
+std::optional<std::int32_t> QtDialogs::chooseColor(std::int32_t start) { return showColor({"", start}); }
+
+std::optional<std::int32_t> QtDialogs::showColor(const ColorRequest& request) {
+    const Over over(parent_);
+    const QColor chosen = QColorDialog::getColor(toColor(request.start), over.window(), q(request.title));
     if (!chosen.isValid()) return std::nullopt;
     return chosen.red() | (chosen.green() << 8) | (chosen.blue() << 16);
 }
@@ -92,10 +112,14 @@ Control* QtDialogs::popupMenu(Form& form, Control& menu) {
 
 void QtDialogs::showModal(Form& form) {
     if (!form.isLoaded()) return;
-    FormView window(form, guard_);
-    window.setWindowFlags(Qt::Dialog);
+    // A fixed tool window draws the same thin frame as the main window, with
+    // no box to close, shrink or grow it: its buttons are the ways out.
+    const bool tool = form.self().number(Prop::BorderStyle) == border::FixedToolWindow;
+    FormView window(form, guard_, tool ? WindowFrame::toolWindow() : WindowFrame{});
+    window.setWindowFlags(tool ? Qt::Tool | Qt::FramelessWindowHint : Qt::Dialog);
     window.setWindowModality(Qt::ApplicationModal);
     window.show();
+    window.activateWindow();
     // The wait ends when the form unloads itself, or when the window system
     // closes a window that has no way of its own to end.
     QEventLoop loop;

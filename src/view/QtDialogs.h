@@ -21,10 +21,15 @@ public:
                          const std::string& defaultText) override;
     std::optional<OpenFileResult> openFile(const OpenFileRequest& request) override;
     std::optional<std::int32_t> chooseColor(std::int32_t start) override;
+    std::optional<std::int32_t> showColor(const ColorRequest& request) override;
     Control* popupMenu(Form& form, Control& menu) override;
     void showModal(Form& form) override;
 
 private:
+    // A box or dialog opens over the modal window that is open, else over
+    // the main window; that window is active again when it closes.
+    class Over;
+
     Guard guard_;
     QPointer<QWidget> parent_;
 };

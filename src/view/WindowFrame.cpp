@@ -24,6 +24,8 @@ int pixels(double twips) { return static_cast<int>(std::lround(toPixels(twips)))
 
 WindowFrame WindowFrame::mainWindow() { return {pixels(kBorderTwips), pixels(kCaptionTwips)}; }
 
+WindowFrame WindowFrame::toolWindow() { return {pixels(kBorderTwips), pixels(kCaptionTwips), false}; }
+
 void paintWindowFrame(QPainter& painter, const QRect& outer, const WindowFrame& frame, const QString& caption,
                       const QIcon& icon, const QPalette& palette) {
     if (frame.isEmpty()) return;
@@ -43,7 +45,7 @@ void paintWindowFrame(QPainter& painter, const QRect& outer, const WindowFrame& 
 
     // Icon and caption, muted, as on an inactive title bar.
     int textLeft = strip.left() + 3;
-    if (!icon.isNull() && strip.height() >= kIconSize) {
+    if (frame.icon && !icon.isNull() && strip.height() >= kIconSize) {
         const QRect iconRect(textLeft, strip.top() + (strip.height() - 1 - kIconSize) / 2, kIconSize, kIconSize);
         icon.paint(&painter, iconRect);
         textLeft = iconRect.right() + 5;

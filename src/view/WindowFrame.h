@@ -17,6 +17,7 @@ namespace brelk::view {
 struct WindowFrame {
     int border = 0;   // logical pixels
     int caption = 0;  // logical pixels, below the top border
+    bool icon = true; // the window's icon shows in the caption strip
 
     QMargins margins() const { return {border, border + caption, border, border}; }
     QRect captionRect(const QRect& outer) const {
@@ -27,6 +28,8 @@ struct WindowFrame {
     // The main window's frame: 60 twips of border and a 285-twip caption,
     // what the main window's row and size constants were made for.
     static WindowFrame mainWindow();
+    // A tool window's: the same, with no icon in the caption.
+    static WindowFrame toolWindow();
 };
 
 void paintWindowFrame(QPainter& painter, const QRect& outer, const WindowFrame& frame, const QString& caption,

@@ -335,7 +335,11 @@ private:
             dialogs_->msgboxAnswers.push_back(a);
         } else if (kind == "input") dialogs_->inputAnswers.push_back(a);
         else if (kind == "color") {
-            if (!a.cancel && !num::isStrictNumber(a.value)) throw LineError("bad colour " + a.value);
+            // A colour dialog gives a whole colour of 24 bits.
+            if (!a.cancel && !(num::isStrictNumber(a.value) && num::strictValue(a.value) >= 0 &&
+                               num::strictValue(a.value) <= 0xFFFFFF &&
+                               num::strictValue(a.value) == std::floor(num::strictValue(a.value))))
+                throw LineError("bad colour " + a.value);
             dialogs_->colorAnswers.push_back(a);
         } else if (kind == "popup") {
             if (t.size() != 3) throw LineError("a popup answer takes no 'after'");
@@ -534,14 +538,22 @@ private:
         if (cmd == "focus") {
             arity(t, 2, 2);
             Target tg = target(t[1].text);
-            return act([&] { tg.form->setFocus(tg.control); });
+            return act([&] {
+                // The control that had the focus loses it, even when it is TARGET itself.
+                if (tg.form->focus() == tg.control) {
+                    tg.form->raise(*tg.control, Event::LostFocus);
+                    tg.form->raise(*tg.control, Event::GotFocus);
+                    return;
+                }
+                tg.form->setFocus(tg.control);
+            });
         }
         if (cmd == "blur") {
             arity(t, 2, 2);
             Target tg = target(t[1].text);
             return act([&] {
-                if (tg.form->focus() == tg.control) tg.form->setFocus(nullptr);
-                else tg.form->raise(*tg.control, Event::LostFocus);
+                tg.form->dropFocus();
+                tg.form->raise(*tg.control, Event::LostFocus);
             });
         }
         if (cmd == "pick") {

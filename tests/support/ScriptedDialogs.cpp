@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 #include "platform/Form.h"
+#include "platform/Numbers.h"
 #include "platform/TimerScheduler.h"
 
 namespace brelk::doubles {
@@ -42,10 +43,13 @@ std::optional<OpenFileResult> ScriptedDialogs::openFile(const OpenFileRequest& r
     return OpenFileResult{files::join(dir_, answer->value), answer->value};
 }
 
-std::optional<std::int32_t> ScriptedDialogs::chooseColor(std::int32_t) {
+std::optional<std::int32_t> ScriptedDialogs::chooseColor(std::int32_t start) { return showColor({"", start}); }
+
+std::optional<std::int32_t> ScriptedDialogs::showColor(const ColorRequest&) {
+    // Without an answer the dialog is cancelled.
     const auto answer = take(colorAnswers);
     if (!answer || answer->cancel) return std::nullopt;
-    return static_cast<std::int32_t>(std::stol(answer->value));
+    return num::toInt32(num::strictValue(answer->value));
 }
 
 Control* ScriptedDialogs::popupMenu(Form& form, Control& menu) {
