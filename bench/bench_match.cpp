@@ -49,7 +49,7 @@ public:
     std::optional<OpenFileResult> openFile(const OpenFileRequest&) override {
         return OpenFileResult{files::join(dir, file), file};
     }
-    std::optional<std::int32_t> chooseColor(std::int32_t) override { return std::nullopt; }
+    std::optional<std::int32_t> showColor(const ColorRequest&) override { return std::nullopt; }
     Control* popupMenu(Form&, Control&) override { return nullptr; }
     void showModal(Form&) override {}
 };

@@ -54,11 +54,8 @@ public:
     virtual std::string inputBox(const std::string& prompt, const std::string& title,
                                  const std::string& defaultText) = 0;
     virtual std::optional<OpenFileResult> openFile(const OpenFileRequest& request) = 0;
-    // The colour dialog without a title of its own: the chosen colour
-    // (0x00BBGGRR), or nullopt when cancelled.
-    virtual std::optional<std::int32_t> chooseColor(std::int32_t start) = 0;
-    // The same with the title the program gives it.
-    virtual std::optional<std::int32_t> showColor(const ColorRequest& request) { return chooseColor(request.start); }
+    // The colour dialog: the chosen colour (0x00BBGGRR), or nullopt when cancelled.
+    virtual std::optional<std::int32_t> showColor(const ColorRequest& request) = 0;
     // Shows `menu`'s visible entries; returns the chosen entry, or nullptr when dismissed.
     virtual Control* popupMenu(Form& form, Control& menu) = 0;
     // Shows a form modally; returns when the form has been unloaded.

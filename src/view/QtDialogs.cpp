@@ -81,7 +81,6 @@ std::optional<OpenFileResult> QtDialogs::openFile(const OpenFileRequest& request
     return OpenFileResult{path.toStdString(), QFileInfo(path).fileName().toStdString()};
 }
 
-std::optional<std::int32_t> QtDialogs::chooseColor(std::int32_t start) { return showColor({"", start}); }
 
 std::optional<std::int32_t> QtDialogs::showColor(const ColorRequest& request) {
     const Over over(parent_);

@@ -52,7 +52,6 @@ public:
     std::string inputBox(const std::string& prompt, const std::string& title,
                          const std::string& defaultText) override;
     std::optional<OpenFileResult> openFile(const OpenFileRequest& request) override;
-    std::optional<std::int32_t> chooseColor(std::int32_t start) override;
     std::optional<std::int32_t> showColor(const ColorRequest& request) override;
     Control* popupMenu(Form& form, Control& menu) override;
     void showModal(Form& form) override;

@@ -25,7 +25,7 @@ public:
     std::optional<OpenFileResult> openFile(const OpenFileRequest&) override {
         return OpenFileResult{BRELK_SOURCE_DIR "/maps/Campgrounds.txt", "Campgrounds.txt"};
     }
-    std::optional<std::int32_t> chooseColor(std::int32_t) override { return std::nullopt; }
+    std::optional<std::int32_t> showColor(const ColorRequest&) override { return std::nullopt; }
     Control* popupMenu(Form&, Control&) override { return nullptr; }
     void showModal(Form&) override {}
 };
