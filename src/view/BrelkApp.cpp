@@ -13,7 +13,7 @@ namespace brelk::view {
 
 AppInfo executableInfo() {
     return AppInfo{QCoreApplication::applicationDirPath().toStdString(),
-                   QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString(), 1, 0, 0};
+                   QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString()};
 }
 
 namespace {

@@ -9,7 +9,7 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
-#include <QProcess>
+#include <QScreen>
 #include <QUrl>
 
 #include "Twips.h"
@@ -119,12 +119,9 @@ void QtWindowSystem::setTopmost(Form&, bool topmost) {
     }
 }
 
-void QtWindowSystem::shell(const std::string& command) {
-    const QString text = QString::fromStdString(command).trimmed();
-    const int space = text.indexOf(' ');
-    const QString address = space > 0 ? text.mid(space + 1).trimmed() : text;
-    if (address.contains("://")) QDesktopServices::openUrl(QUrl(address));
-    else QProcess::startDetached(text);
+bool QtWindowSystem::openUrl(const std::string& address) {
+    const QUrl url(QString::fromStdString(address), QUrl::StrictMode);
+    return url.isValid() && QDesktopServices::openUrl(url);
 }
 
 }  // namespace brelk::view

@@ -74,7 +74,7 @@ public:
         if (!mkdtemp(templ.data())) throw std::runtime_error("cannot make a temporary directory");
         dir_ = templ;
         dialogs_.emplace(clock_, dir_);
-        services_.emplace(Services{clock_, *dialogs_, windows_, AppInfo{dir_, "Brelk", 1, 0, 0}, 19200});
+        services_.emplace(Services{clock_, *dialogs_, windows_, AppInfo{dir_, "Brelk"}, 19200});
         program_.emplace(*services_);
         // A modal form takes the following commands until it is unloaded;
         // then the action that opened it goes on.

@@ -62,7 +62,7 @@ class RecordingWindows : public WindowSystem {
 public:
     std::vector<bool> topmostCalls;
     void setTopmost(Form&, bool topmost) override { topmostCalls.push_back(topmost); }
-    void shell(const std::string&) override {}
+    bool openUrl(const std::string&) override { return true; }
 };
 
 struct ProgramTest : ::testing::Test {
