@@ -40,7 +40,8 @@ void LabelView::paintEvent(QPaintEvent*) {
     if (!control_) return;
     QPainter painter(this);
     if (control_->number(Prop::BackStyle) != 0) painter.fillRect(rect(), toColor(control_->number(Prop::BackColor)));
-    const QString text = displayText(*control_);
+    // A CR, alone or before an LF, breaks the line as an LF does.
+    const QString text = displayText(*control_).replace("\r\n", "\n").replace('\r', '\n');
     if (text.isEmpty()) return;
     painter.setFont(font_);
     painter.setPen(toColor(control_->number(Prop::ForeColor)));

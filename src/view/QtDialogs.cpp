@@ -1,5 +1,7 @@
 #include "QtDialogs.h"
 
+#include <algorithm>
+
 #include <QColorDialog>
 #include <QCursor>
 #include <QDesktopServices>
@@ -70,6 +72,24 @@ std::optional<std::int32_t> QtDialogs::chooseColor(std::int32_t start) {
     return chosen.red() | (chosen.green() << 8) | (chosen.blue() << 16);
 }
 
+void QtDialogs::centreOnOwner(FormView& window) {
+    if (!parent_) return;
+    // On the owner's middle, kept whole on the owner's screen where it fits.
+    const QRect owner = parent_->frameGeometry();
+    QPoint place = owner.center() - QPoint(window.width() / 2, window.height() / 2);
+    if (const QScreen* screen = parent_->screen()) {
+        const QRect room = screen->availableGeometry();
+        place.setX(std::max(room.left(), std::min(place.x(), room.right() + 1 - window.width())));
+        place.setY(std::max(room.top(), std::min(place.y(), room.bottom() + 1 - window.height())));
+    }
+    // The form keeps where its window stands.
+    Form& form = window.form();
+    guard_([&] {
+        form.self().setNumber(Prop::Left, toTwips(place.x()));
+        form.self().setNumber(Prop::Top, toTwips(place.y()));
+    });
+}
+
 Control* QtDialogs::popupMenu(Form& form, Control& menu) {
     QMenu popup(parent_);
     std::vector<std::pair<QAction*, Control*>> entries;
@@ -92,10 +112,16 @@ Control* QtDialogs::popupMenu(Form& form, Control& menu) {
 
 void QtDialogs::showModal(Form& form) {
     if (!form.isLoaded()) return;
-    FormView window(form, guard_);
-    window.setWindowFlags(Qt::Dialog);
+    // A form without a control box draws its own frame, as the main window
+    // does: no window system then adds a close, minimise or maximise box,
+    // and the form's Width and Height are the window's outer size.
+    const bool ownFrame = !form.self().flag(Prop::ControlBox);
+    FormView window(form, guard_, ownFrame ? WindowFrame::mainWindow() : WindowFrame{});
+    window.setWindowFlags(ownFrame ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog);
     window.setWindowModality(Qt::ApplicationModal);
+    if (form.self().number(Prop::StartUpPosition) == startup::CenterOwner) centreOnOwner(window);
     window.show();
+    window.activateWindow();
     // The wait ends when the form unloads itself, or when the window system
     // closes a window that has no way of its own to end.
     QEventLoop loop;

@@ -25,6 +25,8 @@ public:
     void showModal(Form& form) override;
 
 private:
+    void centreOnOwner(FormView& window);
+
     Guard guard_;
     QPointer<QWidget> parent_;
 };
