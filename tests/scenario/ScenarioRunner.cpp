@@ -13,6 +13,7 @@
 
 #include "ScenarioLexer.h"
 #include "ScriptedDialogs.h"
+#include "map/IconCatalogue.h"
 #include "map/Layout.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
@@ -266,6 +267,9 @@ private:
         const auto p = propFromName(prop);
         if (!p || !(c.has(*p) || (*p == Prop::ListCount && c.kind() == ControlKind::ComboBox)))
             throw LineError("unknown property " + prop + " of " + c.displayName());
+        // A picture reads as its catalogue word, "" when it is none of the
+        // catalogue (the program's own icon).
+        if (*p == Prop::Picture && !iconIndex(c.get(*p).text())) return Value("");
         return c.get(*p);
     }
 
