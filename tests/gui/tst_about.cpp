@@ -19,10 +19,10 @@
 
 using namespace brelk;
 
-// The About window as Qt shows it over the main window, opened from the
-// menu and used with real input. The program's clock moves only when the
-// test says; the desktop's opener of https addresses is the test's own, so
-// the page asked for is seen and no browser starts.
+// The About window as Qt shows it over the main window, opened from the menu
+// and used with real input. The clock moves only when the test says; the
+// desktop's opener of https addresses is the test's own, so the page asked
+// for is seen and no browser starts.
 class AboutWindowTest : public QObject {
     Q_OBJECT
 
@@ -37,22 +37,20 @@ class AboutWindowTest : public QObject {
     QList<QUrl> asked_;
 
     void wait(int ms) { guard_([&] { clock_.advanceBy(ms); }); }
-    void placeMain(double left, double top) {
-        guard_([&] {
-            program_->frmMain.self().setNumber(Prop::Left, left);
-            program_->frmMain.self().setNumber(Prop::Top, top);
-        });
-    }
     static QWidget* part(view::FormView& about, const char* name) { return about.findChild<QWidget*>(name); }
     static QPoint centreOf(view::FormView& about, const char* name) {
         QWidget* w = part(about, name);
         return w ? w->mapTo(&about, w->rect().center()) : QPoint();
     }
 
-    // Opens the window from the menu and runs `checks` on it from inside its
-    // modal wait. The checks close it; if one fails first, the window is
-    // closed here so that the wait ends.
-    void openAbout(const std::function<void(view::FormView&)>& checks) {
+    // Puts the main window at `left`, `top` twips, opens the About window from
+    // the menu and runs `checks` inside its modal wait. The checks close it;
+    // if one fails first, it is closed here so that the wait ends.
+    void openAbout(double left, double top, const std::function<void(view::FormView&)>& checks) {
+        guard_([&] {
+            program_->frmMain.self().setNumber(Prop::Left, left);
+            program_->frmMain.self().setNumber(Prop::Top, top);
+        });
         bool ran = false;
         QTimer::singleShot(0, this, [&] {
             ran = true;
@@ -65,10 +63,8 @@ class AboutWindowTest : public QObject {
         });
         guard_([&] { program_->frmMain.raise(program_->frmMain.at("mnuAbout"), Event::Click); });
         QVERIFY(ran);
-        QVERIFY(!program_->frmAbout);
-        QVERIFY(!QApplication::activeModalWidget());
-        // Stay-on-top, lifted while the window was open, is back.
-        QVERIFY(windows_.topmost());
+        QVERIFY(!program_->frmAbout && !QApplication::activeModalWidget());
+        QVERIFY(windows_.topmost());  // lifted while the window was open, back now
     }
 
 public slots:
@@ -91,20 +87,18 @@ private slots:
     void cleanupTestCase() { QDesktopServices::unsetUrlHandler("https"); }
 
     void opensOnTheMainWindowRollsAndClosesByEnter() {
-        placeMain(4500, 3000);
-        openAbout([&](view::FormView& about) {
+        openAbout(4500, 3000, [&](view::FormView& about) {
             QWindow* window = about.windowHandle();
             QVERIFY(QTest::qWaitForWindowExposed(window));
             QVERIFY(!windows_.topmost());
-            // The program's frame, no box in it; on the main window's middle.
+            // The program's own frame, no box in it, on the main window's middle.
             QVERIFY(about.windowFlags().testFlag(Qt::FramelessWindowHint));
-            QCOMPARE(about.size(), QSize(374, 278));
             const QPoint offset = about.geometry().center() - main_->geometry().center();
             QVERIFY2(offset.manhattanLength() <= 2, "not centred on the main window");
             QCOMPARE(part(about, "picIcon")->cursor().shape(), Qt::PointingHandCursor);
             QCOMPARE(part(about, "Label2")->cursor().shape(), Qt::PointingHandCursor);
 
-            // ">>" opens the panel; the text rolls up behind the masks.
+            // ">>" widens the window; the text rolls up, in the window's units, behind the masks.
             QTest::mouseClick(window, Qt::LeftButton, {}, centreOf(about, "cmdThx"));
             QCOMPARE(about.width(), 515);
             wait(1000);
@@ -112,16 +106,14 @@ private slots:
             QCOMPARE(text->y(), view::pixelRect(0, 2175 * kAboutTwipsPerUnitY, 0, 0).y());
             QWidget* client = about.clientArea();
             const QRect hidden = text->geometry() & part(about, "Label4")->geometry() & client->rect();
-            QVERIFY(!hidden.isEmpty());
             QWidget* top = about.childAt(client->mapTo(&about, hidden.center()));
             QCOMPARE(top ? top->objectName() : QString(), QString("Label4"));
 
-            // The link underlines under the pointer and goes out over the bare window.
+            // The pointer lights the link up; over the bare window (600, 1500 twips) it goes out.
             Control& link = program_->frmAbout->at("Label2");
             QTest::mouseMove(window, centreOf(about, "Label2"));
             QVERIFY(link.flag(Prop::FontUnderline));
-            // Left of the description, under the icon: 600, 1500 twips.
-            QTest::mouseMove(window, about.clientArea()->mapTo(&about, QPoint(40, 100)));
+            QTest::mouseMove(window, client->mapTo(&about, QPoint(40, 100)));
             QVERIFY(!link.flag(Prop::FontUnderline));
 
             // The link and the icon ask the desktop for the program's page.
@@ -141,10 +133,8 @@ private slots:
     }
 
     void staysOnTheScreenAndClosesByEsc() {
-        // The main window in the screen's corner: centred, the window would
-        // reach past the screen's top left edge.
-        placeMain(0, 0);
-        openAbout([&](view::FormView& about) {
+        // Centred on a main window in the screen's corner, it would reach past the edge.
+        openAbout(0, 0, [&](view::FormView& about) {
             QCOMPARE(about.pos(), QPoint(0, 0));
             QCOMPARE(program_->frmAbout->self().number(Prop::Left), 0.0);
             QTest::keyClick(&about, Qt::Key_Escape);
