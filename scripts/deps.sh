@@ -1,8 +1,11 @@
 #!/usr/bin/env bash
 # Installs the Debian packages Brelk needs to build, test and run, when missing.
+# usage: deps.sh [package]
 set -euo pipefail
 
-packages=(cmake g++ make libgtest-dev qt6-base-dev libgl-dev fonts-liberation)
+packages=(cmake g++ make libgtest-dev qt6-base-dev qt6-svg-dev libgl-dev fonts-liberation)
+# "package": also what scripts/check-package.sh needs to make and check the Debian package.
+[ "${1:-}" = package ] && packages+=(dpkg-dev file lintian desktop-file-utils appstream)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
@@ -14,4 +17,4 @@ sudo=""
 [ "$(id -u)" -ne 0 ] && sudo="sudo"
 export DEBIAN_FRONTEND=noninteractive
 $sudo apt-get update -qq
-$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"
+$sudo apt-get install -y -qq --no-install-recommends -o DPkg::Lock::Timeout=300 "${missing[@]}"

@@ -15,6 +15,7 @@ int main(int argc, char** argv) {
     }
     QApplication app(argc, argv);
     QApplication::setApplicationName("Brelk");
+    QGuiApplication::setDesktopFileName("io.github.brelk.Brelk");
     QApplication::setWindowIcon(brelk::view::appIcon());
 
     brelk::view::BrelkApp brelk(brelk::view::executableInfo());

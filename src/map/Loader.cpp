@@ -38,11 +38,11 @@ void mnuLoad_Click(Program& p) {
     auto& f = p.frmMain;
     Control& dialog = f.cdl1();
     dialog.set(Prop::FileName, "*.txt");
-    dialog.set(Prop::InitDir, p.sys.app.path);
+    dialog.set(Prop::InitDir, p.sys.app.mapDir.empty() ? p.sys.app.path : p.sys.app.mapDir);
     dialog.setFlag(Prop::CancelError, true);
 
     auto chosen = p.sys.dialogs.openFile(
-        {dialog.get(Prop::DialogTitle).text(), p.sys.app.path, dialog.get(Prop::FileName).text()});
+        {dialog.get(Prop::DialogTitle).text(), dialog.get(Prop::InitDir).text(), dialog.get(Prop::FileName).text()});
     if (!chosen) return;  // cancelled: nothing changes
     dialog.set(Prop::FileName, chosen->fileName);
     dialog.set(Prop::FileTitle, chosen->fileTitle);

@@ -10,12 +10,13 @@ class TimerScheduler;
 
 // What the program knows of its executable.
 struct AppInfo {
-    std::string path;     // directory of the executable, no trailing separator
+    std::string path;     // folder of the profile file and option sets (beside the executable when portable), no trailing separator
     std::string exeName;  // file name without its extension: the profile file's base
     // The program's version: the one the build declares for the project.
     int major = BRELK_VERSION_MAJOR;
     int minor = BRELK_VERSION_MINOR;
     int revision = BRELK_VERSION_PATCH;
+    std::string mapDir;   // folder of the maps, where the open dialog starts; empty: path
 };
 
 // The picture a control holds when it shows the program's own icon.

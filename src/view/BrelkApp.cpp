@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "Locations.h"
 #include "MainWindow.h"
 #include "Twips.h"
 #include "forms/Brelk.h"
@@ -12,8 +13,10 @@
 namespace brelk::view {
 
 AppInfo executableInfo() {
-    return AppInfo{QCoreApplication::applicationDirPath().toStdString(),
-                   QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString()};
+    const install::Locations where = install::programLocations(QCoreApplication::applicationDirPath());
+    return AppInfo{.path = where.settingsDir.toStdString(),
+                   .exeName = QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString(),
+                   .mapDir = where.mapDir.toStdString()};
 }
 
 namespace {

@@ -14,7 +14,8 @@ class Program;
 
 namespace brelk::view {
 
-// The executable's directory and name, the base of its profile file.
+// The executable's name, the base of its profile file, and the folders of
+// the profile file and of the maps (see install::programLocations).
 AppInfo executableInfo();
 
 // The program on Qt: the platform services, the program, its main window

@@ -355,14 +355,20 @@ QPixmap itemIconPixmap(int index, int logicalSize, qreal dpr) {
     return pixmap;
 }
 
+void paintAppIcon(QPainter& painter, const QRectF& target) {
+    painter.save();
+    scaleToGrid(painter, target);
+    paintStopwatch(painter);
+    painter.restore();
+}
+
 QIcon appIcon() {
     QIcon icon;
     for (int size : {16, 24, 32, 48, 64, 128, 256}) {
         QPixmap pixmap(size, size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        scaleToGrid(painter, QRectF(0, 0, size, size));
-        paintStopwatch(painter);
+        paintAppIcon(painter, QRectF(0, 0, size, size));
         painter.end();
         icon.addPixmap(pixmap);
     }

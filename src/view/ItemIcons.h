@@ -20,7 +20,11 @@ void paintItemIcon(QPainter& painter, const QRectF& target, int index);
 // device pixel ratio so it stays crisp on high-density screens.
 QPixmap itemIconPixmap(int index, int logicalSize, qreal dpr);
 
-// The program's window icon: a stopwatch with a red hand, in several sizes.
+// The program's emblem, a stopwatch with a red hand, painted into `target`;
+// the desktop's icon files are drawn by it too.
+void paintAppIcon(QPainter& painter, const QRectF& target);
+
+// The program's window icon: the emblem in several sizes.
 QIcon appIcon();
 
 }  // namespace brelk::view

