@@ -57,7 +57,7 @@ public:
 class NoWindows : public WindowSystem {
 public:
     void setTopmost(Form&, bool) override {}
-    void shell(const std::string&) override {}
+    bool openUrl(const std::string&) override { return true; }
 };
 
 double cpuSeconds() {
@@ -105,7 +105,7 @@ struct Bench {
     Bench() {
         dialogs.dir = dir.path().toStdString();
         services = std::make_unique<Services>(
-            Services{clock, dialogs, windows, AppInfo{dialogs.dir, "brelk", 1, 0, 0}, 19200});
+            Services{clock, dialogs, windows, AppInfo{dialogs.dir, "brelk"}, 19200});
         program = std::make_unique<Brelk>(*services);
         const view::Guard guarded = [this](const std::function<void()>& a) { return program->guarded(a); };
         driver = std::make_unique<view::RealTimeDriver>(clock, [this](const std::function<void()>& a) {
@@ -135,7 +135,7 @@ struct Bench {
 int startupProbe(int argc, char** argv) {
     QApplication app(argc, argv);
     QTemporaryDir dir;
-    view::BrelkApp brelk(AppInfo{dir.path().toStdString(), "brelk", 1, 0, 0});
+    view::BrelkApp brelk(AppInfo{dir.path().toStdString(), "brelk"});
     brelk.window().onFirstPaint = [] {
         std::printf("painted\n");
         std::fflush(stdout);

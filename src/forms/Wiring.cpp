@@ -2,6 +2,7 @@
 
 #include "clock/MatchClock.h"
 #include "clock/TunePanel.h"
+#include "forms/AboutMenu.h"
 #include "forms/Lifecycle.h"
 #include "forms/OptionsMenu.h"
 #include "map/Loader.h"
@@ -33,6 +34,7 @@ void wireMainForm(Program& p) {
     f.on("mnuLoad", Event::Click, plain(p, mnuLoad_Click));
     f.on("mnuOptions", Event::Click, plain(p, mnuOptions_Click));
     f.on("mnuExit", Event::Click, plain(p, mnuExit_Click));
+    f.on("mnuAbout", Event::Click, plain(p, mnuAbout_Click));
     f.on("lblMapName", Event::DblClick, plain(p, mnuLoad_Click));
 
     // The rows: any of a row's five controls takes the mouse.

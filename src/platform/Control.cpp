@@ -25,12 +25,14 @@ void installDefaults(ControlKind kind, std::array<std::optional<Value>, kPropCou
         {Prop::FontName, "MS Sans Serif"}, {Prop::FontSize, 8.25}, {Prop::FontBold, 0},
         {Prop::FontUnderline, 0}};
     const std::initializer_list<PV> common = {
-        {Prop::Visible, -1}, {Prop::Enabled, -1}, {Prop::ToolTipText, ""}, {Prop::Tag, ""}};
+        {Prop::Visible, -1}, {Prop::Enabled, -1}, {Prop::ToolTipText, ""}, {Prop::Tag, ""},
+        {Prop::MousePointer, pointer::Default}};
     switch (kind) {
     case ControlKind::Form:
         put(props, geometry);
         put(props, {{Prop::Caption, ""}, {Prop::BackColor, 0x00C0C0C0}, {Prop::Visible, 0},
-                    {Prop::Enabled, -1}, {Prop::Tag, ""}, {Prop::BorderStyle, 2}});
+                    {Prop::Enabled, -1}, {Prop::Tag, ""}, {Prop::BorderStyle, 2},
+                    {Prop::ControlBox, -1}, {Prop::StartUpPosition, startup::Manual}});
         break;
     case ControlKind::Label:
         put(props, geometry);
@@ -161,10 +163,16 @@ void Control::set(Prop p, Value v) {
 void Control::copyDesign(const Control& prototype) {
     props_ = prototype.props_;
     list_ = prototype.list_;
+    unitsAcross_ = prototype.unitsAcross_;
+    unitsDown_ = prototype.unitsDown_;
     // A loaded member starts hidden until the program shows it.
     auto& visible = props_[static_cast<int>(Prop::Visible)];
     if (visible) visible = Value(0);
 }
+
+double Control::twipsPerUnitAcross() const { return unitsAcross_ ? form_.scale().x : 1.0; }
+
+double Control::twipsPerUnitDown() const { return unitsDown_ ? form_.scale().y : 1.0; }
 
 void Control::ZOrder(int position) {
     form_.reorder(*this, position == 0);

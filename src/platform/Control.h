@@ -65,6 +65,16 @@ public:
     std::string text() const { return get(Prop::Text).text(); }
     void setText(std::string s) { set(Prop::Text, Value(std::move(s))); }
 
+    // Which axes of the geometry are in the form's own units instead of
+    // twips: across (Left, Width) and down (Top, Height).
+    void placeInFormUnits(bool across, bool down) {
+        unitsAcross_ = across;
+        unitsDown_ = down;
+    }
+    // Twips per unit of the geometry across and down (1 where it is in twips).
+    double twipsPerUnitAcross() const;
+    double twipsPerUnitDown() const;
+
     // Stacking order among the form's controls; higher is in front.
     int zOrder() const { return z_; }
     // ZOrder 1: behind every sibling; 0: in front.
@@ -88,6 +98,8 @@ private:
     std::array<std::optional<Value>, kPropCount> props_;
     std::vector<std::string> list_;
     int z_ = 0;
+    bool unitsAcross_ = false;
+    bool unitsDown_ = false;
 };
 
 }  // namespace brelk

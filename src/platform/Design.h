@@ -9,6 +9,12 @@
 // Helpers for laying out a form's design-time controls.
 namespace brelk::design {
 
+// The frame that the program's windows draw around their client area, in
+// twips: a border on each side and a caption strip above. A form's Width and
+// Height are its outer size, frame included.
+constexpr double kFrameBorder = 60;
+constexpr double kFrameCaption = 285;
+
 void geometry(Control& c, double left, double top, double width, double height);
 void font(Control& c, const char* name, double size, bool bold);
 

@@ -107,6 +107,17 @@ public:
 
     TimerScheduler& timers() { return timers_; }
 
+    // The form's own scale: how many twips one of its units measures across
+    // and down. A control placed in these units (Control::placeInFormUnits)
+    // reads back the whole units the program writes, where twips would need
+    // fractions; the view turns them into twips as it draws.
+    struct Scale {
+        double x = 1;
+        double y = 1;
+    };
+    void setScale(Scale s) { scale_ = s; }
+    Scale scale() const { return scale_; }
+
     // Hooks for Control.
     void timerChanged(Control& timer, Prop p, bool wasOn);
     void optionValueWritten(Control& option, bool changed);
@@ -133,6 +144,7 @@ private:
     int captureButton_ = 0;
     Control* focus_ = nullptr;
     bool loaded_ = false;
+    Scale scale_;
     int topZ_ = 0;
     int bottomZ_ = 0;
 };

@@ -11,6 +11,7 @@ constexpr std::array<std::string_view, kPropCount> kNames = {
     "Left", "Top", "Width", "Height", "ToolTipText", "Tag", "Interval", "Text", "SelStart",
     "Value", "ListIndex", "ListCount", "X1", "Y1", "X2", "Y2", "BorderColor", "Picture", "Stretch",
     "Default", "Cancel", "TabIndex",
+    "MousePointer", "ControlBox", "StartUpPosition",
     "FileName", "FileTitle", "InitDir", "DialogTitle", "CancelError", "Color", "Flags",
 };
 }  // namespace

@@ -13,6 +13,8 @@ enum class Prop {
     Left, Top, Width, Height, ToolTipText, Tag, Interval, Text, SelStart,
     Value, ListIndex, ListCount, X1, Y1, X2, Y2, BorderColor, Picture, Stretch,
     Default, Cancel, TabIndex,
+    // The pointer over a control; a form's close box and its place when it opens.
+    MousePointer, ControlBox, StartUpPosition,
     // Common dialog
     FileName, FileTitle, InitDir, DialogTitle, CancelError, Color, Flags,
     Count_
@@ -36,5 +38,18 @@ constexpr int None = 0;
 constexpr int FixedSingle = 1;
 constexpr int FixedToolWindow = 4;
 }  // namespace border
+
+// MousePointer values: the system's arrow, or the pointing hand of a link
+// (the custom pointer of the controls that open the web page).
+namespace pointer {
+constexpr int Default = 0;
+constexpr int Hand = 99;
+}  // namespace pointer
+
+// StartUpPosition values of a form: where it stands as it opens.
+namespace startup {
+constexpr int Manual = 0;
+constexpr int CenterOwner = 1;
+}  // namespace startup
 
 }  // namespace brelk

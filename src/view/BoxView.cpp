@@ -1,5 +1,6 @@
 #include "BoxView.h"
 
+#include <QIcon>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionFrame>
@@ -9,6 +10,7 @@
 #include "Twips.h"
 #include "map/IconCatalogue.h"
 #include "platform/Form.h"
+#include "platform/Platform.h"
 
 namespace brelk::view {
 
@@ -63,11 +65,14 @@ void BoxView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), toColor(control_->number(Prop::BackColor)));
     if (control_->kind() == ControlKind::PictureBox) {
-        if (const auto icon = iconIndex(control_->get(Prop::Picture).text())) {
+        const std::string picture = control_->get(Prop::Picture).text();
+        if (const auto icon = iconIndex(picture)) {
             painter.save();
             painter.setRenderHint(QPainter::Antialiasing);
             paintItemIcon(painter, QRectF(area_->geometry()), *icon);
             painter.restore();
+        } else if (picture == kProgramIconPicture) {
+            appIcon().paint(&painter, area_->geometry());
         }
         if (border() == 0) return;
         QStyleOptionFrame option;

@@ -14,9 +14,9 @@ namespace brelk::view {
 
 AppInfo executableInfo() {
     const install::Locations where = install::programLocations(QCoreApplication::applicationDirPath());
-    return AppInfo{where.settingsDir.toStdString(),
-                   QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString(), 1, 0, 0,
-                   where.mapDir.toStdString()};
+    return AppInfo{.path = where.settingsDir.toStdString(),
+                   .exeName = QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName().toStdString(),
+                   .mapDir = where.mapDir.toStdString()};
 }
 
 namespace {

@@ -13,7 +13,8 @@ bool isCommon(Prop p) {
     case Prop::Left: case Prop::Top: case Prop::Width: case Prop::Height:
     case Prop::X1: case Prop::Y1: case Prop::X2: case Prop::Y2:
     case Prop::Visible: case Prop::Enabled: case Prop::ToolTipText:
-    case Prop::FontName: case Prop::FontSize: case Prop::FontBold: case Prop::FontUnderline: return true;
+    case Prop::FontName: case Prop::FontSize: case Prop::FontBold: case Prop::FontUnderline:
+    case Prop::MousePointer: return true;
     default: return false;
     }
 }
@@ -35,6 +36,10 @@ void ControlView::sync(Prop p) {
     case Prop::Visible: w->setVisible(control_->visible()); break;
     case Prop::Enabled: w->setEnabled(control_->enabled()); break;
     case Prop::ToolTipText: w->setToolTip(QString::fromStdString(control_->get(p).text())); break;
+    case Prop::MousePointer:
+        if (control_->number(p) == pointer::Hand) w->setCursor(Qt::PointingHandCursor);
+        else w->unsetCursor();
+        break;
     case Prop::FontName:
     case Prop::FontSize:
     case Prop::FontBold:
@@ -47,7 +52,7 @@ void ControlView::syncAll() {
     if (!control_) return;
     applyGeometry();
     if (control_->has(Prop::FontName)) applyFont();
-    for (Prop p : {Prop::Enabled, Prop::ToolTipText})
+    for (Prop p : {Prop::Enabled, Prop::ToolTipText, Prop::MousePointer})
         if (control_->has(p)) sync(p);
     for (int i = 0; i < kPropCount; ++i) {
         const auto p = static_cast<Prop>(i);
@@ -58,8 +63,11 @@ void ControlView::syncAll() {
 }
 
 void ControlView::applyGeometry() {
-    widget()->setGeometry(pixelRect(control_->number(Prop::Left), control_->number(Prop::Top),
-                                    control_->number(Prop::Width), control_->number(Prop::Height)));
+    // Geometry placed in the form's own units becomes twips here.
+    const double across = control_->twipsPerUnitAcross();
+    const double down = control_->twipsPerUnitDown();
+    widget()->setGeometry(pixelRect(control_->number(Prop::Left) * across, control_->number(Prop::Top) * down,
+                                    control_->number(Prop::Width) * across, control_->number(Prop::Height) * down));
 }
 
 void ControlView::applyFont() { widget()->setFont(fontOf(*control_)); }

@@ -57,7 +57,8 @@ void LabelView::paintEvent(QPaintEvent*) {
         painter.setPen(QPen(palette().color(QPalette::WindowText), 0));
         painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     }
-    const QString text = displayText(*control_);
+    // A CR, alone or before an LF, breaks the line as an LF does.
+    const QString text = displayText(*control_).replace("\r\n", "\n").replace('\r', '\n');
     if (text.isEmpty()) return;
     painter.setFont(fitted(text));
     painter.setPen(toColor(control_->number(Prop::ForeColor)));

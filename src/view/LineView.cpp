@@ -10,7 +10,9 @@ namespace brelk::view {
 
 namespace {
 
-QPointF endPoint(const Control& c, Prop x, Prop y) { return {toPixels(c.number(x)), toPixels(c.number(y))}; }
+QPointF endPoint(const Control& c, Prop x, Prop y) {
+    return {toPixels(c.number(x) * c.twipsPerUnitAcross()), toPixels(c.number(y) * c.twipsPerUnitDown())};
+}
 
 }  // namespace
 

@@ -1,5 +1,7 @@
 #include "QtDialogs.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QColorDialog>
 #include <QCursor>
@@ -10,7 +12,7 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
-#include <QProcess>
+#include <QScreen>
 #include <QUrl>
 
 #include "Twips.h"
@@ -89,6 +91,24 @@ std::optional<std::int32_t> QtDialogs::showColor(const ColorRequest& request) {
     return chosen.red() | (chosen.green() << 8) | (chosen.blue() << 16);
 }
 
+void QtDialogs::centreOnOwner(FormView& window) {
+    if (!parent_) return;
+    // On the owner's middle, kept whole on the owner's screen where it fits.
+    const QRect owner = parent_->frameGeometry();
+    QPoint place = owner.center() - QPoint(window.width() / 2, window.height() / 2);
+    if (const QScreen* screen = parent_->screen()) {
+        const QRect room = screen->availableGeometry();
+        place.setX(std::max(room.left(), std::min(place.x(), room.right() + 1 - window.width())));
+        place.setY(std::max(room.top(), std::min(place.y(), room.bottom() + 1 - window.height())));
+    }
+    // The form keeps where its window stands.
+    Form& form = window.form();
+    guard_([&] {
+        form.self().setNumber(Prop::Left, toTwips(place.x()));
+        form.self().setNumber(Prop::Top, toTwips(place.y()));
+    });
+}
+
 Control* QtDialogs::popupMenu(Form& form, Control& menu) {
     QMenu popup(parent_);
     std::vector<std::pair<QAction*, Control*>> entries;
@@ -111,12 +131,18 @@ Control* QtDialogs::popupMenu(Form& form, Control& menu) {
 
 void QtDialogs::showModal(Form& form) {
     if (!form.isLoaded()) return;
-    // A fixed tool window draws the same thin frame as the main window, with
-    // no box to close, shrink or grow it: its buttons are the ways out.
+    // A form without a control box draws its own frame, as the main window
+    // does: no window system then adds a close, minimise or maximise box, and
+    // the form's Width and Height are the window's outer size. A fixed tool
+    // window has the same thin frame without the icon.
     const bool tool = form.self().number(Prop::BorderStyle) == border::FixedToolWindow;
-    FormView window(form, guard_, tool ? WindowFrame::toolWindow() : WindowFrame{});
-    window.setWindowFlags(tool ? Qt::Tool | Qt::FramelessWindowHint : Qt::Dialog);
+    const bool ownFrame = tool || !form.self().flag(Prop::ControlBox);
+    FormView window(form, guard_,
+                    tool ? WindowFrame::toolWindow() : ownFrame ? WindowFrame::mainWindow() : WindowFrame{});
+    window.setWindowFlags(tool ? Qt::Tool | Qt::FramelessWindowHint
+                               : ownFrame ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog);
     window.setWindowModality(Qt::ApplicationModal);
+    if (form.self().number(Prop::StartUpPosition) == startup::CenterOwner) centreOnOwner(window);
     window.show();
     window.activateWindow();
     // The wait ends when the form unloads itself, or when the window system
@@ -142,12 +168,9 @@ void QtWindowSystem::setTopmost(Form&, bool topmost) {
     }
 }
 
-void QtWindowSystem::shell(const std::string& command) {
-    const QString text = QString::fromStdString(command).trimmed();
-    const int space = text.indexOf(' ');
-    const QString address = space > 0 ? text.mid(space + 1).trimmed() : text;
-    if (address.contains("://")) QDesktopServices::openUrl(QUrl(address));
-    else QProcess::startDetached(text);
+bool QtWindowSystem::openUrl(const std::string& address) {
+    const QUrl url(QString::fromStdString(address), QUrl::StrictMode);
+    return url.isValid() && QDesktopServices::openUrl(url);
 }
 
 }  // namespace brelk::view

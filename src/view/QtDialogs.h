@@ -28,17 +28,18 @@ private:
     // A box or dialog opens over the modal window that is open, else over
     // the main window; that window is active again when it closes.
     class Over;
+    void centreOnOwner(FormView& window);
 
     Guard guard_;
     QPointer<QWidget> parent_;
 };
 
-// Stay-on-top and external commands for the Qt windows.
+// Stay-on-top, and addresses opened by the desktop's own opener of URLs.
 class QtWindowSystem : public WindowSystem {
 public:
     void setMainWindow(QWidget* window) { window_ = window; }
     void setTopmost(Form& form, bool topmost) override;
-    void shell(const std::string& command) override;
+    bool openUrl(const std::string& address) override;
     bool topmost() const { return topmost_; }
 
 private:

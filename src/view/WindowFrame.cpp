@@ -9,13 +9,14 @@
 #include <QPalette>
 
 #include "Twips.h"
+#include "platform/Design.h"
 
 namespace brelk::view {
 
 namespace {
 
-constexpr double kBorderTwips = 60;
-constexpr double kCaptionTwips = 285;
+constexpr double kBorderTwips = design::kFrameBorder;
+constexpr double kCaptionTwips = design::kFrameCaption;
 constexpr int kIconSize = 16;
 
 int pixels(double twips) { return static_cast<int>(std::lround(toPixels(twips))); }

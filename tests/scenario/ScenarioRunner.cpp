@@ -14,6 +14,7 @@
 
 #include "ScenarioLexer.h"
 #include "ScriptedDialogs.h"
+#include "map/IconCatalogue.h"
 #include "map/Layout.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
@@ -77,7 +78,7 @@ public:
         if (!tmp_.isValid()) throw std::runtime_error("cannot make a temporary directory");
         dir_ = tmp_.path().toStdString();
         dialogs_.emplace(clock_, dir_);
-        services_.emplace(Services{clock_, *dialogs_, windows_, AppInfo{dir_, "Brelk", 1, 0, 0}, 19200});
+        services_.emplace(Services{clock_, *dialogs_, windows_, AppInfo{dir_, "Brelk"}, 19200});
         program_.emplace(*services_);
         // A modal form takes the following commands until it is unloaded;
         // then the action that opened it goes on.
@@ -265,6 +266,9 @@ private:
         const auto p = propFromName(prop);
         if (!p || !(c.has(*p) || (*p == Prop::ListCount && c.kind() == ControlKind::ComboBox)))
             throw LineError("unknown property " + prop + " of " + c.displayName());
+        // A picture reads as its catalogue word, "" when it is none of the
+        // catalogue (the program's own icon).
+        if (*p == Prop::Picture && !iconIndex(c.get(*p).text())) return Value("");
         return c.get(*p);
     }
 

@@ -67,9 +67,12 @@ private:
 class ScriptedWindows : public WindowSystem {
 public:
     bool topmost = false;
-    std::vector<std::string> shellCommands;
+    std::vector<std::string> openedUrls;
     void setTopmost(Form&, bool top) override { topmost = top; }
-    void shell(const std::string& command) override { shellCommands.push_back(command); }
+    bool openUrl(const std::string& address) override {
+        openedUrls.push_back(address);
+        return true;
+    }
 };
 
 

@@ -33,7 +33,7 @@ public:
 class NoWindows : public WindowSystem {
 public:
     void setTopmost(Form&, bool) override {}
-    void shell(const std::string&) override {}
+    bool openUrl(const std::string&) override { return true; }
 };
 
 }  // namespace
