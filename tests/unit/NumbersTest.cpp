@@ -113,6 +113,7 @@ TEST(Numbers, RoundHalfEvenSendsHalvesToTheEvenNeighbourAndNeverGivesMinusZero) 
 TEST(Numbers, IntegerConversionsRoundHalfToEvenAndOverflowPastTheirRange) {
     struct Row { const char* name; int bits; double value; std::int64_t expected; int error; };
     const Row rows[] = {
+        {"16: the largest", 16, 32767, 32767, Ok},
         {"16: half below the largest is even", 16, 32766.5, 32766, Ok},
         {"16: half above the largest", 16, 32767.5, 0, err::Overflow},
         {"16: half below the smallest is even", 16, -32768.5, -32768, Ok},

@@ -105,6 +105,10 @@ TEST_F(Platform, InputFollowsThePlatformsRules) {
     elsewhere.setFlag(Prop::Value, true);
     yes.setFlag(Prop::Value, true);
     yes.setFlag(Prop::Value, true);
+    no.setEnabled(false);  // a disabled button takes no click
+    form.click(no);
+    EXPECT_TRUE(yes.flag(Prop::Value));
+    no.setEnabled(true);
     form.click(no);
     EXPECT_FALSE(yes.flag(Prop::Value));
     EXPECT_TRUE(elsewhere.flag(Prop::Value));
