@@ -47,7 +47,7 @@ protected:
     void mousePressEvent(QMouseEvent* e) override {
         const int b = buttonCode(e->button());
         if (b == 0) return;
-        if (b == button::Left) view_.beginMove(e);
+        if (b == button::Left) view_.beginMove(e, *this);
         raiseMouse(e, [&](Form& f, int shift, float x, float y) { f.mouseDown(f.self(), b, shift, x, y); });
     }
 
@@ -297,7 +297,7 @@ void FormView::notePainted() {
     });
 }
 
-void FormView::beginMove(QMouseEvent* e) {
+void FormView::beginMove(QMouseEvent* e, const QWidget& receiver) {
     if (!isWindow()) return;
     // Where windows may not place themselves, the window system moves it.
     if (QGuiApplication::platformName().startsWith("wayland") && windowHandle()) {
@@ -306,13 +306,16 @@ void FormView::beginMove(QMouseEvent* e) {
     }
     moving_ = true;
     moved_ = false;
-    moveStart_ = e->globalPosition();
-    windowStart_ = pos();
+    // The point of the window under the pointer, which stays under it. Qt's
+    // own idea of the window's place is not used: a window manager that
+    // frames the window after placing it leaves that at the screen's corner
+    // until the window's first resize.
+    grip_ = receiver.mapTo(this, e->position());
 }
 
 void FormView::continueMove(QMouseEvent* e) {
     if (!moving_) return;
-    const QPoint place = windowStart_ + (e->globalPosition() - moveStart_).toPoint();
+    const QPoint place = (e->globalPosition() - grip_).toPoint();
     if (place == pos()) return;
     move(place);
     moved_ = true;
@@ -333,7 +336,7 @@ bool FormView::endMove() {
 
 void FormView::mousePressEvent(QMouseEvent* e) {
     // The frame: the caption strip and the border move the window.
-    if (e->button() == Qt::LeftButton) beginMove(e);
+    if (e->button() == Qt::LeftButton) beginMove(e, *this);
 }
 
 void FormView::mouseMoveEvent(QMouseEvent* e) { continueMove(e); }

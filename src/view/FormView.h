@@ -3,7 +3,6 @@
 #include <functional>
 #include <unordered_map>
 
-#include <QPoint>
 #include <QPointF>
 #include <QWidget>
 
@@ -22,8 +21,9 @@ class FormClient;
 // unloaded. Containers are the parents of what they contain, and the
 // stacking order follows the form's. The window keeps no state of the
 // program: every widget shows what its control holds and follows each
-// change. A drag on the window's frame or on its background moves it; the
-// new position goes into the form's Left and Top when the drag ends.
+// change. A drag on the window's frame or on its background moves it by the
+// pointer's movement; the new position goes into the form's Left and Top
+// when the drag ends.
 class FormView : public QWidget, private FormObserver {
     Q_OBJECT
 public:
@@ -75,8 +75,8 @@ private:
     void formChanged(Prop p);
     void notePainted();
 
-    // Moving the window by a drag.
-    void beginMove(QMouseEvent* e);
+    // Moving the window by a drag; `receiver` got the press.
+    void beginMove(QMouseEvent* e, const QWidget& receiver);
     void continueMove(QMouseEvent* e);
     bool endMove();
 
@@ -86,8 +86,7 @@ private:
     std::unordered_map<const Control*, ControlView*> views_;
     bool moving_ = false;
     bool moved_ = false;
-    QPointF moveStart_;
-    QPoint windowStart_;
+    QPointF grip_;  // in the window's coordinates
     bool painted_ = false;
 };
 
