@@ -18,12 +18,13 @@ class FormClient;
 // The window of one form: a top-level widget with one child widget for each
 // control that is drawn (labels, images, lines, buttons, boxes, entry
 // fields), created when the control is loaded and deleted when it is
-// unloaded. Containers are the parents of what they contain, and the
-// stacking order follows the form's. The window keeps no state of the
-// program: every widget shows what its control holds and follows each
-// change. A drag on the window's frame or on its background moves it by the
-// pointer's movement; the new position goes into the form's Left and Top
-// when the drag ends.
+// unloaded. Containers are the parents of what they contain; within each,
+// windowed controls lie above light ones, each group in the form's stacking
+// order, however the controls were made, loaded or reordered. The window
+// keeps no state of the program: every widget shows what its control holds
+// and follows each change. A drag on the window's frame or on its background
+// moves it by the pointer's movement; the new position goes into the form's
+// Left and Top when the drag ends.
 class FormView : public QWidget, private FormObserver {
     Q_OBJECT
 public:
@@ -69,7 +70,7 @@ private:
     void build();
     ControlView* createView(Control& c);
     void removeView(Control& c);
-    void stack(ControlView& view, bool toFront);
+    void stack(ControlView& view);
     void orderTabs();
     void applyWindowGeometry();
     void formChanged(Prop p);

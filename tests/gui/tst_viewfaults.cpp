@@ -2,11 +2,30 @@
 #include <QTest>
 
 #include "BrelkApp.h"
+#include "ControlView.h"
 #include "GuiTestRegistry.h"
 #include "Twips.h"
 #include "forms/Brelk.h"
+#include "map/Layout.h"
 
 using namespace brelk;
+
+namespace {
+
+// The first widget in which a light control's widget lies above a windowed
+// one's, with its stack from the bottom up; empty if none.
+QString misplaced(QWidget& top) {
+    for (QWidget* parent : top.findChildren<QWidget*>() + QList<QWidget*>{&top}) {
+        QString order;
+        for (QObject* child : parent->children())
+            if (auto* v = dynamic_cast<view::ControlView*>(child); v && v->control())
+                order += view::isWindowedKind(v->control()->kind()) ? 'W' : 'l';
+        if (order.contains("Wl")) return parent->objectName() + ": " + order;
+    }
+    return {};
+}
+
+}  // namespace
 
 // The program as it runs: its clock on real time, input through the driver
 // as the window system hands it over, Qt's own boxes.
@@ -20,6 +39,16 @@ class ViewFaultsTest : public QObject {
     MainForm& f() { return program().frmMain; }
     view::FormView& window() { return app_->window(); }
     QWindow* handle() { return window().windowHandle(); }
+    QWidget* widget(Control& c) { return window().widgetOf(c); }
+    QPoint at(Control& c, QPoint inside) { return widget(c)->mapTo(&window(), inside); }
+    void click(Control& c, QPoint inside) { QTest::mouseClick(handle(), Qt::LeftButton, {}, at(c, inside)); }
+    void addRows() {  // as a map's load makes them
+        program().guarded([&] {
+            AddCategory(program(), "Armor");
+            for (const char* line : {"ICO_RA Red:25", "ICO_YA Yellow:25"}) AddItem(program(), line);
+            f().self().setNumber(Prop::Height, 500 + program().vars.NextRowTop);
+        });
+    }
 
 private slots:
     void init() {
@@ -47,6 +76,31 @@ private slots:
         QTest::lastMouseTimestamp += QTest::mouseDoubleClickInterval;
         QCOMPARE(window().pos(), real + QPoint(30, 20));
         QCOMPARE(f().self().number(Prop::Top), view::toTwips(real.y() + 20));
+    }
+
+    void windowedControlsLieAboveLightOnesWhateverTheProgramDoes() {
+        // Rows made at run time lie under the tune panel: its "+", with the
+        // first category's name behind it, takes the click.
+        addRows();
+        program().guarded([&] { f().picTune().setVisible(true); });
+        const QPoint plus = at(f().cmdMinPlus(), QPoint(10, 8));
+        QVERIFY(QRect(at(f().lblCat(1), {}), widget(f().lblCat(1))->size()).contains(plus));
+        QTest::mouseClick(handle(), Qt::LeftButton, {}, plus);
+        QCOMPARE(f().lblMatchTimer().caption(), std::string("21:00"));
+        QCOMPARE(misplaced(window()), QString());
+
+        // In a container too, whatever order the controls were made in.
+        TimerScheduler clock;
+        Form form("frmTest", clock);
+        Control& frame = form.add(ControlKind::Frame, "fraBox");
+        form.add(ControlKind::CommandButton, "cmdIn", &frame);
+        form.add(ControlKind::Label, "lblIn", &frame);
+        form.addMember(ControlKind::Label, "lblMore", 0, &frame);
+        view::FormView view(form, {});
+        form.at("lblIn").ZOrder(0);
+        form.at("cmdIn").ZOrder(1);
+        form.Load("lblMore", 1).setVisible(true);
+        QCOMPARE(misplaced(view), QString());
     }
 };
 
