@@ -1,5 +1,7 @@
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include "BrelkApp.h"
 #include "ControlView.h"
@@ -11,6 +13,12 @@
 using namespace brelk;
 
 namespace {
+
+// Hands every event of the objects it filters to `seen`.
+struct EventSpy : QObject {
+    std::function<void(QObject*, QEvent*)> seen;
+    bool eventFilter(QObject* o, QEvent* e) override { return seen(o, e), false; }
+};
 
 // The first widget in which a light control's widget lies above a windowed
 // one's, with its stack from the bottom up; empty if none.
@@ -101,6 +109,33 @@ private slots:
         form.at("cmdIn").ZOrder(1);
         form.Load("lblMore", 1).setVisible(true);
         QCOMPARE(misplaced(view), QString());
+    }
+
+    void aStartedRowsBlinkStaysOnTheScreenForAFrame() {
+        addRows();
+        click(f().lblMatchTimer(), QPoint(10, 5));
+        QCOMPARE(program().vars.MatchState, std::string("going"));
+        // Row 2's wake-up comes late, when both ticks of its blink are due.
+        for (const std::int16_t row : {1, 2}) {
+            QWidget* strip = widget(f().lblFond(row));
+            QElapsedTimer time;
+            qint64 hidAt = -1, shownAt = -1;
+            int hiddenPaints = 0;
+            EventSpy spy;
+            spy.seen = [&](QObject* o, QEvent* e) {
+                if (o != strip) hiddenPaints += e->type() == QEvent::Paint && strip->isHidden();
+                else if (e->type() == QEvent::Hide) hidAt = time.elapsed();
+                else if (e->type() == QEvent::Show && hidAt >= 0 && shownAt < 0) shownAt = time.elapsed();
+            };
+            strip->installEventFilter(&spy);
+            window().clientArea()->installEventFilter(&spy);
+            time.start();
+            click(f().lblFond(row), QPoint(3, 12));
+            if (row == 2) QThread::msleep(30);
+            QTRY_VERIFY(!f().timerClick(row).enabled() && shownAt >= 0);
+            const QString seen = QString("row %1: %2 paints in %3 ms").arg(row).arg(hiddenPaints).arg(shownAt - hidAt);
+            QVERIFY2(hiddenPaints > 0 && shownAt - hidAt >= view::RealTimeDriver::kFrameMs - 1, qPrintable(seen));
+        }
     }
 };
 
