@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 #include <QCloseEvent>
@@ -47,7 +47,7 @@ protected:
     void mousePressEvent(QMouseEvent* e) override {
         const int b = buttonCode(e->button());
         if (b == 0) return;
-        if (b == button::Left) view_.beginMove(e);
+        if (b == button::Left) view_.beginMove(e, *this);
         raiseMouse(e, [&](Form& f, int shift, float x, float y) { f.mouseDown(f.self(), b, shift, x, y); });
     }
 
@@ -125,12 +125,11 @@ QWidget* FormView::widgetOf(const Control& c) const {
 QWidget* FormView::clientArea() const { return client_; }
 
 void FormView::build() {
-    // Containers before what they hold; among siblings, the stacking order.
+    // Containers before what they hold; each widget takes its place in the
+    // stack as it is made.
     std::vector<Control*> controls = form().controls();
-    std::stable_sort(controls.begin(), controls.end(), [](const Control* a, const Control* b) {
-        return std::make_tuple(nestingDepth(*a), isWindowedKind(a->kind()), a->zOrder()) <
-               std::make_tuple(nestingDepth(*b), isWindowedKind(b->kind()), b->zOrder());
-    });
+    std::stable_sort(controls.begin(), controls.end(),
+                     [](const Control* a, const Control* b) { return nestingDepth(*a) < nestingDepth(*b); });
     for (Control* c : controls) createView(*c);
     orderTabs();
 }
@@ -156,6 +155,7 @@ ControlView* FormView::createView(Control& c) {
     }
     view->widget()->setObjectName(QString::fromStdString(c.displayName()));
     views_[&c] = view;
+    stack(*view);
     view->syncAll();
     return view;
 }
@@ -182,27 +182,22 @@ void FormView::removeView(Control& c) {
     w->deleteLater();
 }
 
-void FormView::stack(ControlView& view, bool toFront) {
+void FormView::stack(ControlView& view) {
     QWidget* w = view.widget();
     QWidget* parent = w->parentWidget();
     if (!parent || !view.control()) return;
-    // Windowed controls lie at the top of their parent's stack: find the
-    // lowest of them, scanning down from the top.
-    QWidget* lowestWindowed = nullptr;
-    const QObjectList& siblings = parent->children();
-    for (auto it = siblings.crbegin(); it != siblings.crend(); ++it) {
-        auto* other = dynamic_cast<ControlView*>(*it);
-        if (!other || !other->control()) continue;
-        if (!isWindowedKind(other->control()->kind())) break;
-        if (other != &view) lowestWindowed = other->widget();
+    // Among the widgets of one parent, windowed controls lie above light
+    // ones, and each group follows the form's order. The others are in that
+    // order already: this one goes just under the lowest that belongs above
+    // it, or on top.
+    const auto place = [](const Control& c) { return std::make_pair(isWindowedKind(c.kind()), c.zOrder()); };
+    const auto mine = place(*view.control());
+    for (QObject* sibling : parent->children()) {  // from the bottom up
+        auto* other = dynamic_cast<ControlView*>(sibling);
+        if (other && other != &view && other->control() && mine < place(*other->control()))
+            return w->stackUnder(other->widget());
     }
-    const bool windowed = isWindowedKind(view.control()->kind());
-    if (windowed && toFront) w->raise();
-    else if (!windowed && !toFront) w->lower();
-    // A label to the front goes just under the windowed controls; a button
-    // to the back just over the labels.
-    else if (lowestWindowed) w->stackUnder(lowestWindowed);
-    else w->raise();
+    w->raise();
 }
 
 void FormView::orderTabs() {
@@ -220,7 +215,6 @@ void FormView::orderTabs() {
 void FormView::controlLoaded(Control& c) {
     ControlView* view = createView(c);
     if (!view) return;
-    stack(*view, c.zOrder() > 0);
     if (view->widget()->focusPolicy() & Qt::TabFocus) orderTabs();
 }
 
@@ -236,9 +230,7 @@ void FormView::propertyChanged(Control& c, Prop p) {
 
 void FormView::zOrderChanged(Control& c) {
     const auto it = views_.find(&c);
-    // The form sends a control to the back with a place below every other,
-    // to the front with one above.
-    if (it != views_.end()) stack(*it->second, c.zOrder() > 0);
+    if (it != views_.end()) stack(*it->second);
 }
 
 void FormView::focusChanged(Control* now) {
@@ -297,7 +289,7 @@ void FormView::notePainted() {
     });
 }
 
-void FormView::beginMove(QMouseEvent* e) {
+void FormView::beginMove(QMouseEvent* e, const QWidget& receiver) {
     if (!isWindow()) return;
     // Where windows may not place themselves, the window system moves it.
     if (QGuiApplication::platformName().startsWith("wayland") && windowHandle()) {
@@ -306,13 +298,16 @@ void FormView::beginMove(QMouseEvent* e) {
     }
     moving_ = true;
     moved_ = false;
-    moveStart_ = e->globalPosition();
-    windowStart_ = pos();
+    // The point of the window under the pointer, which stays under it. Qt's
+    // own idea of the window's place is not used: a window manager that
+    // frames the window after placing it leaves that at the screen's corner
+    // until the window's first resize.
+    grip_ = receiver.mapTo(this, e->position());
 }
 
 void FormView::continueMove(QMouseEvent* e) {
     if (!moving_) return;
-    const QPoint place = windowStart_ + (e->globalPosition() - moveStart_).toPoint();
+    const QPoint place = (e->globalPosition() - grip_).toPoint();
     if (place == pos()) return;
     move(place);
     moved_ = true;
@@ -333,7 +328,7 @@ bool FormView::endMove() {
 
 void FormView::mousePressEvent(QMouseEvent* e) {
     // The frame: the caption strip and the border move the window.
-    if (e->button() == Qt::LeftButton) beginMove(e);
+    if (e->button() == Qt::LeftButton) beginMove(e, *this);
 }
 
 void FormView::mouseMoveEvent(QMouseEvent* e) { continueMove(e); }

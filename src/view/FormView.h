@@ -3,7 +3,6 @@
 #include <functional>
 #include <unordered_map>
 
-#include <QPoint>
 #include <QPointF>
 #include <QWidget>
 
@@ -19,11 +18,13 @@ class FormClient;
 // The window of one form: a top-level widget with one child widget for each
 // control that is drawn (labels, images, lines, buttons, boxes, entry
 // fields), created when the control is loaded and deleted when it is
-// unloaded. Containers are the parents of what they contain, and the
-// stacking order follows the form's. The window keeps no state of the
-// program: every widget shows what its control holds and follows each
-// change. A drag on the window's frame or on its background moves it; the
-// new position goes into the form's Left and Top when the drag ends.
+// unloaded. Containers are the parents of what they contain; within each,
+// windowed controls lie above light ones, each group in the form's stacking
+// order, however the controls were made, loaded or reordered. The window
+// keeps no state of the program: every widget shows what its control holds
+// and follows each change. A drag on the window's frame or on its background
+// moves it by the pointer's movement; the new position goes into the form's
+// Left and Top when the drag ends.
 class FormView : public QWidget, private FormObserver {
     Q_OBJECT
 public:
@@ -69,14 +70,14 @@ private:
     void build();
     ControlView* createView(Control& c);
     void removeView(Control& c);
-    void stack(ControlView& view, bool toFront);
+    void stack(ControlView& view);
     void orderTabs();
     void applyWindowGeometry();
     void formChanged(Prop p);
     void notePainted();
 
-    // Moving the window by a drag.
-    void beginMove(QMouseEvent* e);
+    // Moving the window by a drag; `receiver` got the press.
+    void beginMove(QMouseEvent* e, const QWidget& receiver);
     void continueMove(QMouseEvent* e);
     bool endMove();
 
@@ -86,8 +87,7 @@ private:
     std::unordered_map<const Control*, ControlView*> views_;
     bool moving_ = false;
     bool moved_ = false;
-    QPointF moveStart_;
-    QPoint windowStart_;
+    QPointF grip_;  // in the window's coordinates
     bool painted_ = false;
 };
 

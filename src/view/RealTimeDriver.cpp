@@ -26,7 +26,12 @@ void RealTimeDriver::start() {
     rearm();
 }
 
-std::int64_t RealTimeDriver::nowMs() const { return base_ + elapsed_.nsecsElapsed() / 1000000; }
+std::int64_t RealTimeDriver::nowUs() const { return base_ * 1000 + elapsed_.nsecsElapsed() / 1000; }
+
+std::int64_t RealTimeDriver::fireTime(std::int64_t due) const {
+    if (!fired_ || due >= fired_->due + kFrameMs) return due;
+    return std::max(due, std::min(fired_->at + kFrameMs, due + kMaxHoldMs));
+}
 
 void RealTimeDriver::rearm() {
     if (!running_) return;
@@ -36,12 +41,17 @@ void RealTimeDriver::rearm() {
         return;
     }
     // Rounded up to whole milliseconds, so the wake-up never comes early.
-    const std::int64_t waitUs = *due * 1000 - (base_ * 1000 + elapsed_.nsecsElapsed() / 1000);
+    wakeUs_ = fireTime(*due) * 1000;
+    const std::int64_t waitUs = wakeUs_ - nowUs();
     timer_.start(static_cast<int>(std::clamp<std::int64_t>((waitUs + 999) / 1000, 0, 1 << 30)));
 }
 
 void RealTimeDriver::catchUp() {
-    if (running_) scheduler_.advanceTo(nowMs());
+    if (!running_) return;
+    const std::uint64_t before = scheduler_.ticksFired();
+    const std::int64_t now = nowMs();
+    scheduler_.advanceTo(now);
+    if (scheduler_.ticksFired() != before) fired_ = Fired{now, now};
 }
 
 Guard RealTimeDriver::inputGuard(Guard guard) {
@@ -54,11 +64,18 @@ Guard RealTimeDriver::inputGuard(Guard guard) {
 }
 
 void RealTimeDriver::wake() {
-    const auto due = scheduler_.nextDue();
-    const std::int64_t nowUs = base_ * 1000 + elapsed_.nsecsElapsed() / 1000;
-    if (due && onWake && nowUs >= *due * 1000) onWake(nowUs - *due * 1000);
-    const std::int64_t now = nowMs();
-    guard_([&] { scheduler_.advanceTo(now); });
+    const std::int64_t now = nowUs();
+    if (onWake && scheduler_.nextDue() && now >= wakeUs_) onWake(now - wakeUs_);
+    guard_([&] {
+        // One moment at a time, until the next one is to wait for the screen.
+        auto due = scheduler_.nextDue();
+        for (; due && fireTime(*due) * 1000 <= now; due = scheduler_.nextDue()) {
+            scheduler_.advanceTo(*due);
+            fired_ = Fired{*due, nowMs()};
+        }
+        // Nothing left that is due: the clock stands at the present.
+        if (!due || *due * 1000 > now) scheduler_.advanceTo(now / 1000);
+    });
     rearm();
 }
 
