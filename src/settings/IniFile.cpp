@@ -1,6 +1,7 @@
 #include "settings/IniFile.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,10 +30,11 @@ constexpr std::string_view kLineEnd = "\r\n";
 // Name attempts for a temporary file before giving up.
 constexpr int kTempAttempts = 100;
 // How long a write waits for another copy of the program to finish its write
-// of the same file before it gives up (a write takes milliseconds), and the
-// age from which a lock file that names no holder counts as left by a killed
-// writer. A lock whose holder still runs is never taken from it.
+// of the same file before it gives up (a write takes milliseconds), in steps;
+// and the age from which a lock file that names no holder counts as left by a
+// killed writer. A lock whose holder still runs is never taken from it.
 constexpr int kLockWaitMs = 5000;
+constexpr int kLockStepMs = 250;
 constexpr int kStaleLockMs = 2000;
 
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
@@ -165,16 +167,24 @@ std::pair<fs::path, std::string> placeOf(const std::string& path) {
     return {p.has_parent_path() ? p.parent_path() : fs::path("."), p.filename().string()};
 }
 
-// The lock of one profile file, held for one whole read-modify-replace so
-// that two copies of the program never write from the same old text. Once it
-// is held, the temporary files of killed writes of this file and of its copy
-// go: a write in progress holds the lock, so none of them is in use.
+// The lock of one profile file (QLockFile), held for one whole
+// read-modify-replace so that two copies of the program never write from the
+// same old text. Qt takes over a lock whose writer was killed, under a helper
+// lock (".rmlock"); a writer killed while doing so leaves that one behind,
+// empty, for Qt to honour half a minute: such a helper that no process holds
+// goes. Once the lock is ours, so do the temporary files of killed writes of
+// this file and of its copy: a write in progress holds the lock, so none of
+// them is in use.
 class WriteLock {
 public:
-    explicit WriteLock(const std::string& path) : lock_(lockFile(path)) {
+    explicit WriteLock(const std::string& path) : path_(path), lock_(lockFile(path)) {
         lock_.setStaleLockTime(kStaleLockMs);
-        held_ = lock_.tryLock(kLockWaitMs);
-        if (held_) removeLeftovers(path);
+        for (int waited = 0; waited < kLockWaitMs; waited += kLockStepMs) {
+            held_ = lock_.tryLock(kLockStepMs);
+            if (held_ || lock_.error() != QLockFile::LockFailedError) break;
+            removeLeftovers(false);
+        }
+        if (held_) removeLeftovers(true);
     }
     bool held() const { return held_; }
 
@@ -183,17 +193,27 @@ private:
         const auto [dir, name] = placeOf(path);
         return QString::fromStdString((dir / ("." + name + ".lock")).string());
     }
-    static void removeLeftovers(const std::string& path) {
-        const auto [dir, name] = placeOf(path);
-        const std::string ours = "." + name + ".tmp-";
-        const std::string copies = "." + copyPath(name) + ".tmp-";
+    void removeLeftovers(bool locked) const {
+        const auto [dir, name] = placeOf(path_);
+        const std::string helpers = "." + name + ".lock.rmlock";
+        const std::string temps[] = {"." + name + ".tmp-", "." + copyPath(name) + ".tmp-"};
         std::error_code ec;
         for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
             const std::string entry = it->path().filename().string();
             std::error_code ignored;
-            if (entry.starts_with(ours) || entry.starts_with(copies)) fs::remove(it->path(), ignored);
+            if (entry.starts_with(helpers)) removeUnheld(it->path());
+            else if (locked && (entry.starts_with(temps[0]) || entry.starts_with(temps[1]))) fs::remove(it->path(), ignored);
         }
     }
+    // Qt's lock holders hold the file's native lock too.
+    static void removeUnheld(const fs::path& file) {
+        const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+        if (fd < 0) return;
+        if (::flock(fd, LOCK_EX | LOCK_NB) == 0) ::unlink(file.c_str());
+        ::close(fd);
+    }
+
+    std::string path_;
 
     QLockFile lock_;
     bool held_ = false;
