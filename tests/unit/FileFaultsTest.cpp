@@ -7,16 +7,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QTemporaryDir>
 
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <random>
 #include <set>
-#include <sstream>
-#include <string>
 
 #include "ScriptedDialogs.h"
 #include "forms/Brelk.h"
@@ -34,6 +30,19 @@ namespace {
 
 const std::string kBom = "\xEF\xBB\xBF";
 
+// Runs `work` in a child process; its pid.
+template <typename Work>
+pid_t spawn(Work work) {
+    const pid_t pid = ::fork();
+    if (pid == 0) ::_exit([&] { try { return work(); } catch (...) { return 99; } }());
+    return pid;
+}
+// The child's exit status once it has ended, -1 when it was killed.
+int exitStatus(pid_t pid) {
+    int status = 0;
+    return ::waitpid(pid, &status, 0) == pid && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
 struct Faults : ::testing::Test {
     QTemporaryDir tmp;
     std::string dir = tmp.path().toStdString();
@@ -44,13 +53,13 @@ struct Faults : ::testing::Test {
     Services services{clock, dialogs, windows, AppInfo{dir, "Brelk"}};
 
     std::string put(const std::string& name, const std::string& bytes) const {
-        std::ofstream(dir + "/" + name, std::ios::binary) << bytes;
+        files::writeAll(dir + "/" + name, bytes);
         return dir + "/" + name;
     }
     static std::string bytesOf(const std::string& path) {
-        std::ostringstream s;
-        s << std::ifstream(path, std::ios::binary).rdbuf();
-        return s.str();
+        std::string bytes;
+        files::readRegularFile(path, bytes);
+        return bytes;
     }
     std::set<std::string> entries() const {
         std::set<std::string> names;
@@ -65,8 +74,7 @@ struct Faults : ::testing::Test {
     }
     void load(Program& p, const std::string& name, const std::string& bytes) {
         dialogs.boxes.clear();
-        put(name, bytes);
-        dialogs.openAnswers.push_back({name});
+        dialogs.openAnswers.push_back({fs::path(put(name, bytes)).filename()});
         mnuLoad_Click(p);
     }
     // Every stored key stands in the profile file with a value of its kind.
@@ -88,13 +96,12 @@ TEST_F(Faults, AUtf8SignatureIsNoTextInMapsAndStaysInProfiles) {
     EXPECT_TRUE(dialogs.boxes.empty());
     EXPECT_EQ(p->vars.ItemCount, rows);
 
-    struct Case { std::string before, section, key, value, after; };
-    for (const Case& c : {Case{kBom + "[Form]\r\nPosX=1\r\n", "Form", "PosX", "2", kBom + "[Form]\r\nPosX=2\r\n"},
-                          Case{kBom, "A", "k", "v", kBom + "[A]\r\nk=v\r\n"}}) {
-        const std::string path = put("signed.ini", c.before);
-        ASSERT_TRUE(ini::writeValue(path, c.section, c.key, c.value));
-        EXPECT_EQ(bytesOf(path), c.after);
-        EXPECT_EQ(ini::readValue(path, c.section, c.key), c.value);
+    for (const auto& [before, after] : {std::pair{kBom + "[Form]\r\nPosX=1\r\n", kBom + "[Form]\r\nPosX=2\r\n"},
+                                        std::pair{kBom, kBom + "[Form]\r\nPosX=2\r\n"}}) {
+        const std::string path = put("signed.ini", before);
+        ASSERT_TRUE(ini::writeValue(path, "Form", "PosX", "2"));
+        EXPECT_EQ(bytesOf(path), after);
+        EXPECT_EQ(ini::readValue(path, "form", "posx"), "2");
     }
 }
 
@@ -111,9 +118,6 @@ TEST_F(Faults, AProfileThatFailsToReadIsCopiedOnceBeforeItIsWrittenOver) {
         EXPECT_EQ(ini::readValue(profile, "Options", "LastSeconds"), "5");  // written as designed
     }
     EXPECT_EQ(entries(), (std::set<std::string>{"Brelk.ini", "Brelk.ini.bak"}));
-    auto clean = started();  // a clean run leaves the copy alone
-    clean->guarded([&] { mnuExit_Click(*clean); });
-    EXPECT_EQ(ini::readValue(profile + ".bak", "Options", "LastSeconds"), "x");
 }
 
 TEST_F(Faults, AFirstStartOnAFullDiskLeavesNoProfileAndTheNextOneAWholeProfile) {
@@ -128,19 +132,6 @@ TEST_F(Faults, AFirstStartOnAFullDiskLeavesNoProfileAndTheNextOneAWholeProfile) 
     EXPECT_FALSE(fs::exists(profile));
     started();
     EXPECT_TRUE(profileIsWhole());
-}
-
-// Runs `work` in a child process; its exit status, or -1 if it died.
-template <typename Work>
-pid_t spawn(Work work) {
-    const pid_t pid = ::fork();
-    if (pid == 0) ::_exit(work());
-    return pid;
-}
-int exitStatus(pid_t pid) {
-    int status = 0;
-    ::waitpid(pid, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 TEST_F(Faults, TwoCopiesWritingAtOnceLoseNoWrite) {
@@ -164,8 +155,7 @@ TEST_F(Faults, KilledWritesLeaveAWholeProfileAndTheirLitterGoesAtTheNextWrite) {
     for (int round = 0; round < 40; ++round) {
         if (round % 4 == 0) fs::remove(profile);  // a first start now and then
         const pid_t pid = spawn([&] {
-            auto p = started();
-            for (;;) WriteIniFile(*p, "");
+            for (auto p = started();;) WriteIniFile(*p, "");
             return 0;
         });
         ::usleep(std::uniform_int_distribution<useconds_t>(0, 30000)(random));
