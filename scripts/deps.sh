@@ -2,7 +2,8 @@
 # Installs the Debian packages Brelk needs to build, test and run, when missing.
 set -euo pipefail
 
-packages=(cmake g++ make libgtest-dev qt6-base-dev libgl-dev fonts-liberation)
+# clang and its sanitizer and fuzzer runtimes: the second compiler CI builds with.
+packages=(cmake g++ make libgtest-dev qt6-base-dev libgl-dev fonts-liberation clang libclang-rt-dev)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
