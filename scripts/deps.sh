@@ -3,7 +3,8 @@
 # usage: deps.sh [package]
 set -euo pipefail
 
-packages=(cmake g++ make libgtest-dev qt6-base-dev qt6-svg-dev libgl-dev fonts-liberation)
+# clang and its sanitizer and fuzzer runtimes: the second compiler CI builds with.
+packages=(cmake g++ make libgtest-dev qt6-base-dev qt6-svg-dev libgl-dev fonts-liberation clang libclang-rt-dev)
 # "package": also what scripts/check-package.sh needs to make and check the Debian package.
 [ "${1:-}" = package ] && packages+=(dpkg-dev file lintian desktop-file-utils appstream)
 missing=()

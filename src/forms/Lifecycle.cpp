@@ -36,6 +36,9 @@ void Form_Load(Program& p) {
     // A first start has no profile file yet: it begins with the built-in one.
     const bool firstStart = !profileExists(p);
     if (firstStart) writeBuiltInProfile(p);
+    // Where it could not be made (a read-only folder, a full disk), no start
+    // leaves a profile of a few keys: the program runs without one.
+    const bool hasProfile = !firstStart || profileExists(p);
 
     v.PosX = positionOf(p, "PosX");
     v.PosY = positionOf(p, "PosY");
@@ -48,14 +51,14 @@ void Form_Load(Program& p) {
     v.Launched = countOne(static_cast<std::int16_t>(readInteger(ReadIniValue(p, "Stats", "Launched", "")).value_or(0)));
     v.TimedItems = static_cast<std::int16_t>(readInteger(ReadIniValue(p, "Stats", "TimedItems", "")).value_or(0));
     std::string launched = num::numberText(v.Launched);
-    WriteIniValue(p, "Stats", "Launched", launched, "");
+    if (hasProfile) WriteIniValue(p, "Stats", "Launched", launched, "");
 
     // The settings begin at their built-in values, so that a key that cannot
     // be read, and every key after it, keeps a usable value. Where the
     // profile file could not be created, a first start runs on them without
     // a message.
     applyBuiltInSettings(p);
-    if (!firstStart || profileExists(p)) ReadIniFile(p, "");
+    if (hasProfile) ReadIniFile(p, "");
     ChangeTimerColor(p);
     ChangeFormColor(p);
     ChangeListColor(p);

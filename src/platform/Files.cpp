@@ -40,6 +40,10 @@ private:
 
 }  // namespace
 
+std::size_t signatureLength(std::string_view bytes) {
+    return bytes.substr(0, kUtf8Signature.size()) == kUtf8Signature ? kUtf8Signature.size() : 0;
+}
+
 ReadStatus readRegularFile(const std::string& path, std::string& bytes) {
     bytes.clear();
     const Descriptor fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
@@ -47,12 +51,17 @@ ReadStatus readRegularFile(const std::string& path, std::string& bytes) {
     struct stat st {};
     if (::fstat(fd.get(), &st) != 0) return ReadStatus::Failed;
     if (!S_ISREG(st.st_mode)) return ReadStatus::NotAFile;
+    if (st.st_size > static_cast<off_t>(kMaxFileBytes)) return ReadStatus::TooBig;
     char buf[65536];
     for (;;) {
         const ssize_t n = ::read(fd.get(), buf, sizeof buf);
         if (n > 0) bytes.append(buf, static_cast<std::size_t>(n));
         else if (n == 0) return ReadStatus::Ok;
         else if (errno != EINTR) return ReadStatus::Failed;
+        if (bytes.size() > kMaxFileBytes) {  // it grew while being read
+            bytes.clear();
+            return ReadStatus::TooBig;
+        }
     }
 }
 
@@ -63,10 +72,11 @@ void LineReader::open(const std::string& path) {
     case ReadStatus::Ok: break;
     case ReadStatus::Missing:
     case ReadStatus::NotAFile: raise(err::FileNotFound);
+    case ReadStatus::TooBig:
     case ReadStatus::Failed: raise(err::PathNotFound, "Path/File access error");
     }
     bytes_ = std::move(bytes);
-    pos_ = 0;
+    pos_ = signatureLength(bytes_);
     open_ = true;
     utf8_ = isValidUtf8(bytes_);
 }
@@ -166,8 +176,9 @@ bool matchesPattern(const std::string& name, const std::string& pattern) {
         return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
     };
     while (n < name.size()) {
-        if (p < pattern.size() && (pattern[p] == '?' || same(pattern[p], name[n]))) { ++n; ++p; }
-        else if (p < pattern.size() && pattern[p] == '*') { star = p++; mark = n; }
+        // A star in the pattern is a wildcard, also against a star in the name.
+        if (p < pattern.size() && pattern[p] == '*') { star = p++; mark = n; }
+        else if (p < pattern.size() && (pattern[p] == '?' || same(pattern[p], name[n]))) { ++n; ++p; }
         else if (star != std::string::npos) { p = star + 1; n = ++mark; }
         else return false;
     }

@@ -8,22 +8,32 @@
 namespace brelk::files {
 
 // How reading a whole file ended.
-enum class ReadStatus { Ok, Missing, NotAFile, Failed };
+enum class ReadStatus { Ok, Missing, NotAFile, TooBig, Failed };
+
+// The largest map or profile file read: real ones hold a few kilobytes, the
+// longest list of rows about 300. A bigger file is refused before it is read.
+constexpr std::size_t kMaxFileBytes = std::size_t{1} << 20;
+
+// The signature that some editors put before UTF-8 text; never part of it.
+constexpr std::string_view kUtf8Signature = "\xEF\xBB\xBF";
+// Its length when `bytes` begins with it, else 0.
+std::size_t signatureLength(std::string_view bytes);
 
 // The whole of a regular file into `bytes`. Only a regular file is read: a
 // directory, a device or a named pipe is NotAFile at once, and opening
 // without blocking keeps a pipe with no writer from holding the program up.
-// Missing is a path that names nothing; Failed any other open or read error.
+// Missing is a path that names nothing; TooBig a file of more than
+// kMaxFileBytes; Failed any other open or read error.
 ReadStatus readRegularFile(const std::string& path, std::string& bytes);
 
 // A text file opened for reading by lines. A line ends at CR LF or at a lone
 // CR; a lone LF is part of the line. The file is read whole when opened, and
 // decoded as UTF-8 when it is valid UTF-8, else as Windows-1252, so that any
-// byte sequence reads as text.
+// byte sequence reads as text. A UTF-8 signature at its start is skipped.
 class LineReader {
 public:
     // Raises error 53 when the file is missing or is no regular file, 76 when
-    // it cannot be opened or read.
+    // it cannot be opened or read or is too big.
     void open(const std::string& path);
     bool isOpen() const { return open_; }
     bool eof() const { return pos_ >= bytes_.size(); }

@@ -1,6 +1,7 @@
 #include "settings/IniFile.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -10,6 +11,9 @@
 #include <new>
 #include <optional>
 #include <vector>
+
+#include <QLockFile>
+#include <QString>
 
 #include "platform/Files.h"
 
@@ -25,6 +29,13 @@ constexpr std::size_t kMaxValueLength = 254;
 constexpr std::string_view kLineEnd = "\r\n";
 // Name attempts for a temporary file before giving up.
 constexpr int kTempAttempts = 100;
+// How long a write waits for another copy of the program to finish its write
+// of the same file before it gives up (a write takes milliseconds), in steps;
+// and the age from which a lock file that names no holder counts as left by a
+// killed writer. A lock whose holder still runs is never taken from it.
+constexpr int kLockWaitMs = 5000;
+constexpr int kLockStepMs = 250;
+constexpr int kStaleLockMs = 2000;
 
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
 
@@ -52,10 +63,11 @@ struct Line {
     std::size_t next;
 };
 
-// Lines end at CR LF, LF or a lone CR; the last line may have no end.
+// Lines end at CR LF, LF or a lone CR; the last line may have no end. A UTF-8
+// signature before the first line belongs to no line.
 std::vector<Line> splitLines(std::string_view text) {
     std::vector<Line> lines;
-    std::size_t begin = 0;
+    std::size_t begin = files::signatureLength(text);
     while (begin < text.size()) {
         std::size_t end = text.find_first_of("\r\n", begin);
         if (end == std::string_view::npos) {
@@ -142,6 +154,73 @@ bool writable(const std::string& path, const struct stat& st) {
     return ::access(path.c_str(), W_OK) == 0;
 }
 
+// A name for a temporary file beside `name`: the process and an attempt
+// number. O_EXCL makes it ours alone, even against another thread or a file
+// left behind by a writer that was killed.
+std::string tempName(const fs::path& dir, const std::string& name, int attempt) {
+    return (dir / ("." + name + ".tmp-" + std::to_string(::getpid()) + "-" + std::to_string(attempt))).string();
+}
+
+// The directory and the name of a file's path.
+std::pair<fs::path, std::string> placeOf(const std::string& path) {
+    const fs::path p(path);
+    return {p.has_parent_path() ? p.parent_path() : fs::path("."), p.filename().string()};
+}
+
+// The lock of one profile file (QLockFile), held for one whole
+// read-modify-replace so that two copies of the program never write from the
+// same old text. Qt takes over a lock whose writer was killed, under a helper
+// lock (".rmlock"); a writer killed while doing so leaves that one behind,
+// empty, for Qt to honour half a minute: such a helper that no process holds
+// goes. Once the lock is ours, so do the temporary files of killed writes of
+// this file and of its copy: a write in progress holds the lock, so none of
+// them is in use.
+class WriteLock {
+public:
+    explicit WriteLock(const std::string& path) : path_(path), lock_(lockFile(path)) {
+        lock_.setStaleLockTime(kStaleLockMs);
+        for (int waited = 0; waited < kLockWaitMs; waited += kLockStepMs) {
+            held_ = lock_.tryLock(kLockStepMs);
+            if (held_ || lock_.error() != QLockFile::LockFailedError) break;
+            removeLeftovers(false);
+        }
+        if (held_) removeLeftovers(true);
+    }
+    bool held() const { return held_; }
+
+private:
+    static QString lockFile(const std::string& path) {
+        const auto [dir, name] = placeOf(path);
+        return QString::fromStdString((dir / ("." + name + ".lock")).string());
+    }
+    void removeLeftovers(bool locked) const {
+        const auto [dir, name] = placeOf(path_);
+        const std::string helpers = "." + name + ".lock.rmlock";
+        const std::string temps[] = {"." + name + ".tmp-", "." + copyPath(name) + ".tmp-"};
+        std::error_code ec;
+        for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
+            const std::string entry = it->path().filename().string();
+            std::error_code ignored;
+            if (entry.starts_with(helpers)) removeUnheld(it->path());
+            else if (locked && (entry.starts_with(temps[0]) || entry.starts_with(temps[1]))) fs::remove(it->path(), ignored);
+        }
+    }
+    // Qt's lock holders hold the file's native lock too.
+    static void removeUnheld(const fs::path& file) {
+        const int fd = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+        if (fd < 0) return;
+        if (::flock(fd, LOCK_EX | LOCK_NB) == 0) ::unlink(file.c_str());
+        ::close(fd);
+    }
+
+    std::string path_;
+
+    QLockFile lock_;
+    bool held_ = false;
+};
+
+}  // namespace
+
 // The text with the key set to the value, every other byte kept.
 std::string withValue(std::string_view text, std::string_view section, std::string_view key,
                       std::string_view value) {
@@ -166,21 +245,15 @@ std::string withValue(std::string_view text, std::string_view section, std::stri
         out.append(text.substr(anchor.next));
     } else {
         out.append(text);
-        if (!text.empty() && text.back() != '\n' && text.back() != '\r') out.append(kLineEnd);
+        if (text.size() > files::signatureLength(text) && text.back() != '\n' && text.back() != '\r')
+            out.append(kLineEnd);
         out.append("[").append(section).append("]").append(kLineEnd);
         out.append(key).append("=").append(value).append(kLineEnd);
     }
     return out;
 }
 
-// A name for a temporary file beside `name`: the process and an attempt
-// number. O_EXCL makes it ours alone, even against another thread or a file
-// left behind by a writer that was killed.
-std::string tempName(const fs::path& dir, const std::string& name, int attempt) {
-    return (dir / ("." + name + ".tmp-" + std::to_string(::getpid()) + "-" + std::to_string(attempt))).string();
-}
-
-}  // namespace
+std::string copyPath(const std::string& path) { return path + ".bak"; }
 
 std::string profilePath(const std::string& dir, const std::string& exeName, const std::string& iniFile) {
     if (iniFile.empty()) return dir + "/" + exeName + ".ini";
@@ -202,25 +275,30 @@ std::string readValue(const std::string& path, std::string_view section, std::st
     return {};  // a file too big for memory reads as an empty one
 }
 
-bool writeValue(const std::string& path, std::string_view section, std::string_view key,
-                std::string_view value) try {
+bool writeValue(const std::string& path, std::string_view section, std::string_view key, std::string_view value,
+                bool keepCopy) try {
     // A line break would split the line and damage the file's structure.
     if (key.empty() || hasLineBreak(section) || hasLineBreak(key) || hasLineBreak(value)) return false;
     value = trimBlanks(value);
 
+    // Write through a link to the file it names, so the link stays a link.
     std::string target = path;
+    std::error_code ec;
+    if (fs::is_symlink(path, ec)) {
+        const fs::path real = fs::weakly_canonical(path, ec);
+        if (ec) return false;
+        target = real.string();
+    }
+    const WriteLock lock(target);
+    if (!lock.held()) return false;
     std::string old;
     struct stat st {};
-    if (::stat(path.c_str(), &st) == 0) {
-        if (!S_ISREG(st.st_mode) || !writable(path, st)) return false;
-        if (!readWhole(path, old)) return false;
-        // Write through a link to the file it names, so the link stays a link.
-        std::error_code ec;
-        if (fs::is_symlink(path, ec)) {
-            const fs::path real = fs::canonical(path, ec);
-            if (ec) return false;
-            target = real.string();
-        }
+    if (::stat(target.c_str(), &st) == 0) {
+        if (!S_ISREG(st.st_mode) || !writable(target, st)) return false;
+        if (!readWhole(target, old)) return false;
+        // The file as it was before this write; should the copy fail, the
+        // write goes on as it would without one.
+        if (keepCopy) replaceFile(copyPath(target), old);
     } else if (errno != ENOENT) {
         return false;
     }
@@ -229,11 +307,17 @@ bool writeValue(const std::string& path, std::string_view section, std::string_v
     return false;  // a file too big for memory is left as it is
 }
 
+bool createFile(const std::string& path, std::string_view bytes) {
+    const WriteLock lock(path);
+    if (!lock.held()) return false;
+    struct stat st {};
+    if (::lstat(path.c_str(), &st) == 0 || errno != ENOENT) return false;  // another copy made it
+    return replaceFile(path, bytes);
+}
+
 bool replaceFile(const std::string& path, std::string_view bytes) {
-    const fs::path p(path);
-    const std::string name = p.filename().string();
+    const auto [dir, name] = placeOf(path);
     if (name.empty()) return false;
-    const fs::path dir = p.has_parent_path() ? p.parent_path() : fs::path(".");
 
     // Never create a directory, and leave a read-only one alone.
     struct stat dirSt {};

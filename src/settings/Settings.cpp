@@ -35,7 +35,11 @@ std::string ReadIniValue(Program& p, const std::string& Section, const std::stri
 void WriteIniValue(Program& p, const std::string& Section, const std::string& Key, std::string& Value,
                    const std::string& IniFile) {
     Value = num::trim(Value);
-    ini::writeValue(path(p, IniFile), Section, Key, Value);
+    // A file whose reading failed keeps the user's values only in itself: it
+    // is copied before this program first writes over it.
+    const std::string file = path(p, IniFile);
+    const bool keepCopy = p.unreadProfiles.erase(file) > 0;
+    ini::writeValue(file, Section, Key, Value, keepCopy);
 }
 
 std::optional<double> readFlag(const std::string& text) {
@@ -116,7 +120,9 @@ void ReadIniFile(Program& p, const std::string& IniFile) {
     const bool whole = readSettings(p, [&](const SharedVariable& s) {
         return ReadIniValue(p, std::string(s.section), std::string(s.name), IniFile);
     });
-    if (!whole) p.MsgBox("An error occured when reading file (wrong file format ?)", msgbox::Critical, "WTF ?!");
+    if (whole) return;
+    p.unreadProfiles.insert(path(p, IniFile));
+    p.MsgBox("An error occured when reading file (wrong file format ?)", msgbox::Critical, "WTF ?!");
 }
 
 void applyBuiltInSettings(Program& p) {
@@ -135,11 +141,13 @@ void WriteIniFile(Program& p, const std::string& IniFile) {
 bool profileExists(Program& p) { return files::exists(path(p, "")); }
 
 void writeBuiltInProfile(Program& p) {
-    for (const SharedVariable& s : sharedVariables()) {
-        if (s.stored == Stored::Never) continue;
-        std::string text(s.builtIn);
-        WriteIniValue(p, std::string(s.section), std::string(s.name), text, "");
-    }
+    // Made whole in memory and put in place in one step, unless another copy
+    // of the program made it meanwhile: a first start stopped at any moment
+    // leaves all of the profile file or none of it.
+    std::string text;
+    for (const SharedVariable& s : sharedVariables())
+        if (s.stored != Stored::Never) text = ini::withValue(text, s.section, s.name, s.builtIn);
+    ini::createFile(path(p, ""), text);
 }
 
 }  // namespace brelk

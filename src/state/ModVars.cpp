@@ -38,11 +38,11 @@ const std::vector<SharedVariable>& sharedVariables() {
         {"LastMinuteMatchTimerColor", K::Colour, &ModVars::LastMinuteMatchTimerColor, S::Settings, "Colors", "255"},
         {"Launched", K::Int16, &ModVars::Launched, S::Stats, "Stats", "0"},
         {"TimedItems", K::Int16, &ModVars::TimedItems, S::Stats, "Stats", "0"},
-        {"PausedMatchTimerColor", K::Colour, &ModVars::PausedMatchTimerColor},
-        {"NextRowTop", K::Int32, &ModVars::NextRowTop},
-        {"CategoryCount", K::Int16, &ModVars::CategoryCount},
-        {"ItemCount", K::Int16, &ModVars::ItemCount},
-        {"MatchState", K::Text, &ModVars::MatchState},
+        {"PausedMatchTimerColor", K::Colour, &ModVars::PausedMatchTimerColor, S::Never, "", ""},
+        {"NextRowTop", K::Int32, &ModVars::NextRowTop, S::Never, "", ""},
+        {"CategoryCount", K::Int16, &ModVars::CategoryCount, S::Never, "", ""},
+        {"ItemCount", K::Int16, &ModVars::ItemCount, S::Never, "", ""},
+        {"MatchState", K::Text, &ModVars::MatchState, S::Never, "", ""},
     };
     return table;
 }

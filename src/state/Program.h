@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "platform/Platform.h"
@@ -29,6 +30,9 @@ public:
     // Made anew at each opening, gone once closed.
     std::unique_ptr<Form> frmOptions;
     std::unique_ptr<Form> frmAbout;
+    // Profile files whose reading failed and that this program has not
+    // written since: the first write over one keeps a copy of it.
+    std::set<std::string> unreadProfiles;
 
     // Opens the main window: its Load event.
     void start();

@@ -455,7 +455,8 @@ private:
             const auto p = propFromName(prop);
             if (!p || !target.control->has(*p)) throw LineError("unknown property " + prop);
             const Value v = value(t[3]);
-            return act([&] { target.control->set(*p, v); });
+            Control* control = target.control;  // a lambda may not capture a structured binding everywhere
+            return act([&] { control->set(*p, v); });
         }
         if (cmd == "additem" || cmd == "addcategory") {
             arity(t, 2, 2);

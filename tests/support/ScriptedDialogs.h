@@ -67,11 +67,12 @@ private:
 class ScriptedWindows : public WindowSystem {
 public:
     bool topmost = false;
+    bool browser = true;  // whether a browser can be started
     std::vector<std::string> openedUrls;
     void setTopmost(Form&, bool top) override { topmost = top; }
     bool openUrl(const std::string& address) override {
         openedUrls.push_back(address);
-        return true;
+        return browser;
     }
 };
 

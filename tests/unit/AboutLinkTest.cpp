@@ -13,19 +13,13 @@ using namespace brelk;
 
 namespace {
 
-// A desktop that can start nothing to show an address.
-struct NoBrowser : WindowSystem {
-    std::vector<std::string> asked;
-    void setTopmost(Form&, bool) override {}
-    bool openUrl(const std::string& address) override { return asked.push_back(address), false; }
-};
-
 // With no browser to start, the link gives the page's address in a message,
 // and the About window stays open.
 TEST(AboutLink, WithNoBrowserAMessageGivesTheAddressAndTheWindowStaysOpen) {
     TimerScheduler clock;
     doubles::ScriptedDialogs dialogs{clock, ""};
-    NoBrowser desktop;
+    doubles::ScriptedWindows desktop;
+    desktop.browser = false;
     Services services{clock, dialogs, desktop, AppInfo{"", "Brelk"}};
     Brelk program(services);
     program.frmAbout = makeAboutForm(program);
@@ -36,7 +30,7 @@ TEST(AboutLink, WithNoBrowserAMessageGivesTheAddressAndTheWindowStaysOpen) {
     ASSERT_EQ(dialogs.boxes.size(), 1u);
     EXPECT_EQ(dialogs.boxes[0].title, "Brelk");
     EXPECT_NE(dialogs.boxes[0].prompt.find("https://www.railhold-crew.net/ressources/brelk/"), std::string::npos);
-    EXPECT_EQ(desktop.asked, std::vector<std::string>{webPageAddress()});
+    EXPECT_EQ(desktop.openedUrls, std::vector<std::string>{webPageAddress()});
     EXPECT_TRUE(about.isLoaded());
 }
 

@@ -84,7 +84,9 @@ TEST(Numbers, StrictValueTakesOneNumberAndNothingElse) {
         EXPECT_EQ(isStrictNumber(r.text), r.error == Ok);
         double got = 0;
         EXPECT_EQ(errorOf([&] { got = strictValue(r.text); }), r.error);
-        if (r.error == Ok) EXPECT_DOUBLE_EQ(got, r.expected);
+        if (r.error == Ok) {
+            EXPECT_DOUBLE_EQ(got, r.expected);
+        }
     }
 }
 
@@ -130,7 +132,9 @@ TEST(Numbers, IntegerConversionsRoundHalfToEvenAndOverflowPastTheirRange) {
         SCOPED_TRACE(r.name);
         std::int64_t got = 0;
         EXPECT_EQ(errorOf([&] { got = r.bits == 16 ? toInt16(r.value) : toInt32(r.value); }), r.error);
-        if (r.error == Ok) EXPECT_EQ(got, r.expected);
+        if (r.error == Ok) {
+            EXPECT_EQ(got, r.expected);
+        }
     }
 }
 
@@ -163,7 +167,9 @@ TEST(Numbers, CheckedArithmeticOverflowsInsteadOfWrapping) {
         SCOPED_TRACE(r.name);
         std::int64_t got = 0;
         EXPECT_EQ(errorOf([&] { got = r.op(r.a, r.b); }), r.error);
-        if (r.error == Ok) EXPECT_EQ(got, r.expected);
+        if (r.error == Ok) {
+            EXPECT_EQ(got, r.expected);
+        }
     }
 }
 

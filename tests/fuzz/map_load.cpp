@@ -1,0 +1,12 @@
+// Any bytes as a map file, chosen in the open dialog and loaded as a user does.
+#include "FuzzProgram.h"
+#include "map/Loader.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static brelk::fuzz::FuzzProgram f;
+    f.put("map.txt", data, size);
+    f.dialogs.boxes.clear();
+    f.dialogs.openAnswers.push_back({"map.txt"});
+    brelk::mnuLoad_Click(f.p);
+    return 0;
+}
