@@ -3,7 +3,8 @@
 // (BRELK_BENCH_SECONDS, 60 by default). Reports lost ticks, tick lateness,
 // CPU time per minute of match, peak memory, the time from process start to
 // the first painted main window, and the time to load a 1,000-row map.
-// Exits non-zero when a tick was lost.
+// Exits non-zero when a tick was lost. With BRELK_BENCH_CALLOUTS=1 the
+// spoken call-outs watch the match as well.
 
 #include <sys/resource.h>
 
@@ -24,6 +25,7 @@
 #include <QTimer>
 
 #include "BrelkApp.h"
+#include "callouts/CallOuts.h"
 #include "MainWindow.h"
 #include "RealTimeDriver.h"
 #include "map/Loader.h"
@@ -52,6 +54,16 @@ public:
     std::optional<std::int32_t> showColor(const ColorRequest&) override { return std::nullopt; }
     Control* popupMenu(Form&, Control&) override { return nullptr; }
     void showModal(Form&) override {}
+};
+
+// Stands for the speech engine: each call takes 0.9 s.
+class BenchVoice : public callouts::Voice {
+public:
+    int calls = 0;
+    void say(const callouts::Call&, std::function<void()> done) override {
+        ++calls;
+        QTimer::singleShot(900, [done = std::move(done)] { done(); });
+    }
 };
 
 class NoWindows : public WindowSystem {
@@ -177,6 +189,17 @@ int main(int argc, char** argv) {
     // other, 20 ms apart, so that their ticks spread over the second.
     Bench match;
     match.program->vars.MatchDuration = "546:00";
+    // Call-outs watch every change of the window. The rows count for the
+    // whole run, so the calls made are the match's: its last minute starts
+    // 30 s before the end of the run.
+    const bool callOutsOn = qEnvironmentVariableIntValue("BRELK_BENCH_CALLOUTS") != 0;
+    BenchVoice voice;
+    std::unique_ptr<callouts::CallOuts> callOuts;
+    if (callOutsOn) {
+        callOuts = std::make_unique<callouts::CallOuts>(*match.program, voice);
+        callOuts->setChoices({callouts::Sound::Voice, 30, true, true, 100});
+        match.program->vars.MatchDuration = Minutes(static_cast<std::int16_t>(seconds + 30));
+    }
     writeMap(files::join(match.dialogs.dir, "match.txt"), kRows, kRowDelay);
     match.load("match.txt");
     auto& f = match.f();
@@ -258,6 +281,7 @@ int main(int argc, char** argv) {
 
     std::printf("match                    %.2f s of real time (BRELK_BENCH_SECONDS %d), %d rows counting\n", elapsed,
                 seconds, kRows);
+    std::printf("call-outs                %s, %d calls\n", callOutsOn ? "on" : "off", voice.calls);
     std::printf("ticks fired              %ld, a perfect clock: %ld\n", fired, expectedTicks);
     std::printf("seconds shown            %ld by the clock and the rows, a perfect clock: %ld\n", shown, expected);
     std::printf("clock reads              %s, a perfect clock: %s\n", clockShown.c_str(), clockExpected.c_str());

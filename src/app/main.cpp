@@ -4,6 +4,7 @@
 
 #include "BrelkApp.h"
 #include "ItemIcons.h"
+#include "callouts/qt/QtCallOuts.h"
 
 int main(int argc, char** argv) {
     const bool platformChosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
@@ -19,6 +20,8 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(brelk::view::appIcon());
 
     brelk::view::BrelkApp brelk(brelk::view::executableInfo());
+    // Spoken call-outs, beyond the window's design: a submenu of ">" and the [Coach] section.
+    brelk::callouts::qt::QtCallOuts callOuts(brelk);
     if (!brelk.start()) return 0;
     return QApplication::exec();
 }

@@ -34,7 +34,10 @@ BrelkApp::BrelkApp(AppInfo app)
     services_ = std::make_unique<Services>(Services{clock_, dialogs_, windows_, std::move(app), screenWidthTwips()});
     program_ = std::make_unique<Brelk>(*services_);
     // The end is at once: no window is asked whether it may close.
-    program_->setEndListener([] { QCoreApplication::exit(0); });
+    program_->setEndListener([this] {
+        for (const auto& action : endActions_) action();
+        QCoreApplication::exit(0);
+    });
     driver_ = std::make_unique<RealTimeDriver>(clock_, program);
     input_ = driver_->inputGuard(program);
     // The window exists before the form loads, so that the position and the

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 #include "FormView.h"
 #include "QtDialogs.h"
@@ -33,6 +35,11 @@ public:
 
     Program& program() { return *program_; }
     FormView& window() { return *window_; }
+    QtDialogs& dialogs() { return dialogs_; }
+
+    // What features beyond the window's design do when the program ends,
+    // after its own end and before the process exits.
+    void atEnd(std::function<void()> action) { endActions_.push_back(std::move(action)); }
 
 private:
     TimerScheduler clock_;
@@ -43,6 +50,7 @@ private:
     std::unique_ptr<Program> program_;
     std::unique_ptr<FormView> window_;
     std::unique_ptr<RealTimeDriver> driver_;
+    std::vector<std::function<void()>> endActions_;
 };
 
 }  // namespace brelk::view

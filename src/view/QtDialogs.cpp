@@ -109,6 +109,10 @@ void QtDialogs::centreOnOwner(FormView& window) {
     });
 }
 
+void QtDialogs::addMenuExtension(std::string after, std::function<void(QMenu&)> add) {
+    extensions_.emplace_back(std::move(after), std::move(add));
+}
+
 Control* QtDialogs::popupMenu(Form& form, Control& menu) {
     QMenu popup(parent_);
     std::vector<std::pair<QAction*, Control*>> entries;
@@ -122,6 +126,8 @@ Control* QtDialogs::popupMenu(Form& form, Control& menu) {
         QAction* action = popup.addAction(QString::fromStdString(c->caption()));
         action->setEnabled(c->enabled());
         entries.emplace_back(action, c);
+        for (const auto& [after, add] : extensions_)
+            if (after == c->name()) add(popup);
     }
     QAction* chosen = popup.exec(QCursor::pos());
     for (const auto& [action, control] : entries)

@@ -3,9 +3,15 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
+#include <string>
+#include <vector>
+
 #include "FormView.h"
 #include "platform/Dialogs.h"
 #include "platform/Platform.h"
+
+class QMenu;
 
 namespace brelk::view {
 
@@ -15,6 +21,13 @@ class QtDialogs : public Dialogs {
 public:
     explicit QtDialogs(Guard guard) : guard_(std::move(guard)) {}
     void setParentWindow(QWidget* parent) { parent_ = parent; }
+
+    // Entries beyond the window's design: whenever a popup menu shows the
+    // entry named `after` ("mnuOptions"), `add` puts its own entries (a
+    // submenu) into the menu right behind it. They act by themselves when
+    // chosen; the program's menu sees a dismissed popup. `add` must stay
+    // valid while menus can be shown.
+    void addMenuExtension(std::string after, std::function<void(QMenu&)> add);
 
     int msgBox(const std::string& prompt, int style, const std::string& title) override;
     std::string inputBox(const std::string& prompt, const std::string& title,
@@ -32,6 +45,7 @@ private:
 
     Guard guard_;
     QPointer<QWidget> parent_;
+    std::vector<std::pair<std::string, std::function<void(QMenu&)>>> extensions_;
 };
 
 // Stay-on-top, and addresses opened by the desktop's own opener of URLs.
