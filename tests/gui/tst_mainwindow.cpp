@@ -87,16 +87,17 @@ class MainWindowTest : public QObject {
     }
 
     // The widget agrees with its control: shown or hidden, place, tooltip,
-    // and for a label the very picture a new widget of the control draws.
+    // and for a label the very picture a new widget of the control draws,
+    // all at the window's zoom.
     void expectShows(Control& c) {
         QWidget* w = widget(c);
         QVERIFY(w);
         QCOMPARE(w->isHidden(), !c.visible());
         QCOMPARE(w->geometry(), view::pixelRect(c.number(Prop::Left), c.number(Prop::Top), c.number(Prop::Width),
-                                                c.number(Prop::Height)));
+                                                c.number(Prop::Height), window_->zoom()));
         QCOMPARE(w->toolTip().toStdString(), c.get(Prop::ToolTipText).text());
         if (c.kind() != ControlKind::Label) return;
-        const view::ViewContext context{f(), {}};
+        const view::ViewContext context{f(), {}, window_->zoom()};
         view::LabelView fresh(c, context, nullptr);
         fresh.syncAll();
         QCOMPARE(w->grab().toImage().convertToFormat(QImage::Format_RGB32),
