@@ -32,8 +32,7 @@ std::string description() {
 std::string thanks() {
     const char* paragraphs[] = {
         "Thanks to the following :",
-        "The two admins of our league's web site and of its spring tournament, for their honest opinion on such "
-        "a tool.",
+        "The two admins of our league's web site and of its spring tournament, for their honest opinion on such a tool.",
         "My three clan mates, for all their feedback and their ideas.",
         "One of them again, for getting me out of a setup problem on Windows XP.",
         "A web site full of programming tips, for answering my questions before I had asked them.",
