@@ -5,6 +5,7 @@
 #include "BrelkApp.h"
 #include "ItemIcons.h"
 #include "callouts/qt/QtCallOuts.h"
+#include "zoom/qt/QtZoom.h"
 
 int main(int argc, char** argv) {
     const bool platformChosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
@@ -22,6 +23,8 @@ int main(int argc, char** argv) {
     brelk::view::BrelkApp brelk(brelk::view::executableInfo());
     // Spoken call-outs, beyond the window's design: a submenu of ">" and the [Coach] section.
     brelk::callouts::qt::QtCallOuts callOuts(brelk);
+    // The zoom, beyond it too: a submenu of ">", keys and wheel, the [Coach] section.
+    brelk::zoom::qt::QtZoom zoom(brelk);
     if (!brelk.start()) return 0;
     return QApplication::exec();
 }

@@ -1,5 +1,7 @@
 #include "BoxView.h"
 
+#include <cmath>
+
 #include <QIcon>
 #include <QMouseEvent>
 #include <QPainter>
@@ -31,7 +33,7 @@ private:
     BoxView& box_;
 };
 
-// The 3D border of a picture box, in pixels.
+// The 3D border of a picture box, in pixels at 100 %.
 constexpr int kSunkenBorder = 2;
 
 }  // namespace
@@ -45,7 +47,7 @@ BoxView::BoxView(Control& control, const ViewContext& context, QWidget* parent)
 
 int BoxView::border() const {
     if (!control_ || control_->kind() != ControlKind::PictureBox) return 0;
-    return control_->number(Prop::BorderStyle) != 0 ? kSunkenBorder : 0;
+    return control_->number(Prop::BorderStyle) != 0 ? static_cast<int>(std::lround(kSunkenBorder * context_.zoom)) : 0;
 }
 
 void BoxView::placeArea() { area_->setGeometry(rect().adjusted(border(), border(), -border(), -border())); }
@@ -56,7 +58,7 @@ void BoxView::apply(Prop p) {
 }
 
 void BoxView::applyFont() {
-    setFont(fontOf(*control_));
+    setFont(fontOf(*control_, context_.zoom));
     update();
 }
 
@@ -78,7 +80,7 @@ void BoxView::paintEvent(QPaintEvent*) {
         QStyleOptionFrame option;
         option.initFrom(this);
         option.rect = rect();
-        option.lineWidth = kSunkenBorder / 2;
+        option.lineWidth = border() / 2;
         option.midLineWidth = 0;
         option.state |= QStyle::State_Sunken;
         style()->drawPrimitive(QStyle::PE_Frame, &option, &painter, this);

@@ -23,7 +23,8 @@ namespace {
 
 int screenWidthTwips() {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? static_cast<int>(toTwips(screen->geometry().width())) : 19200;
+    // At 100 %; what zooms the main window scales it with the window.
+    return screen ? static_cast<int>(toTwips(screen->geometry().width(), 1.0)) : 19200;
 }
 
 }  // namespace

@@ -13,8 +13,8 @@ namespace brelk::view {
 
 namespace {
 
-float twipX(const QMouseEvent* e) { return static_cast<float>(toTwips(e->position().x())); }
-float twipY(const QMouseEvent* e) { return static_cast<float>(toTwips(e->position().y())); }
+float twipX(const QMouseEvent* e, double zoom) { return static_cast<float>(toTwips(e->position().x(), zoom)); }
+float twipY(const QMouseEvent* e, double zoom) { return static_cast<float>(toTwips(e->position().y(), zoom)); }
 
 }  // namespace
 
@@ -30,7 +30,7 @@ void ControlMouse::press(QWidget&, QMouseEvent* e) {
         if (e->flags() & Qt::MouseEventCreatedDoubleClick) return;
     }
     const int shift = shiftState(e->modifiers());
-    const float x = twipX(e), y = twipY(e);
+    const float x = twipX(e, view_.context().zoom), y = twipY(e, view_.context().zoom);
     view_.context().run([&] { c->form().mouseDown(*c, b, shift, x, y); });
 }
 
@@ -53,7 +53,7 @@ void ControlMouse::release(QWidget& area, QMouseEvent* e) {
                        area.rect().contains(e->position().toPoint());
     if (b == button::Left) pressed_ = doubleClick_ = false;
     const int shift = shiftState(e->modifiers());
-    const float x = twipX(e), y = twipY(e);
+    const float x = twipX(e, view_.context().zoom), y = twipY(e, view_.context().zoom);
     view_.context().run([&] {
         Form& form = c->form();
         form.mouseUp(*c, b, shift, x, y);
@@ -68,7 +68,7 @@ void ControlMouse::move(QWidget&, QMouseEvent* e) {
     if (!c) return;
     const int held = buttonsHeld(e->buttons());
     const int shift = shiftState(e->modifiers());
-    const float x = twipX(e), y = twipY(e);
+    const float x = twipX(e, view_.context().zoom), y = twipY(e, view_.context().zoom);
     view_.context().run([&] { c->form().mouseMove(*c, held, shift, x, y); });
 }
 

@@ -67,10 +67,11 @@ void ControlView::applyGeometry() {
     const double across = control_->twipsPerUnitAcross();
     const double down = control_->twipsPerUnitDown();
     widget()->setGeometry(pixelRect(control_->number(Prop::Left) * across, control_->number(Prop::Top) * down,
-                                    control_->number(Prop::Width) * across, control_->number(Prop::Height) * down));
+                                    control_->number(Prop::Width) * across, control_->number(Prop::Height) * down,
+                                    context_.zoom));
 }
 
-void ControlView::applyFont() { widget()->setFont(fontOf(*control_)); }
+void ControlView::applyFont() { widget()->setFont(fontOf(*control_, context_.zoom)); }
 
 bool isWindowedKind(ControlKind kind) {
     switch (kind) {

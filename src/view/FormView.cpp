@@ -81,8 +81,8 @@ private:
     template <typename Raise>
     void raiseMouse(QMouseEvent* e, Raise raise) {
         const int shift = shiftState(e->modifiers());
-        const auto x = static_cast<float>(toTwips(e->position().x()));
-        const auto y = static_cast<float>(toTwips(e->position().y()));
+        const auto x = static_cast<float>(toTwips(e->position().x(), view_.zoom()));
+        const auto y = static_cast<float>(toTwips(e->position().y(), view_.zoom()));
         view_.context_.run([&] { raise(form(), shift, x, y); });
     }
 
@@ -103,7 +103,8 @@ bool isContainer(ControlKind k) { return k == ControlKind::PictureBox || k == Co
 }  // namespace
 
 FormView::FormView(Form& form, Guard guard, WindowFrame frame, QWidget* parent)
-    : QWidget(parent), context_{form, std::move(guard)}, frame_(frame), client_(new FormClient(*this)) {
+    : QWidget(parent), context_{form, std::move(guard)}, designFrame_(frame), frame_(frame),
+      client_(new FormClient(*this)) {
     setObjectName(QString::fromStdString(form.name()));
     setWindowTitle(QString::fromStdString(form.self().caption()));
     setAttribute(Qt::WA_OpaquePaintEvent, !frame_.isEmpty());
@@ -123,6 +124,23 @@ QWidget* FormView::widgetOf(const Control& c) const {
 }
 
 QWidget* FormView::clientArea() const { return client_; }
+
+void FormView::setZoom(double zoom) {
+    if (!(zoom > 0) || zoom == context_.zoom) return;
+    const QPoint corner = windowPlace();
+    context_.zoom = zoom;
+    frame_ = designFrame_.zoomed(zoom);
+    // Every widget follows its control again, now at the new zoom.
+    for (const auto& [control, view] : views_) view->syncAll();
+    if (isWindow() && isVisible())
+        context_.run([&] {
+            form().self().setNumber(Prop::Left, toTwips(corner.x(), zoom));
+            form().self().setNumber(Prop::Top, toTwips(corner.y(), zoom));
+        });
+    applyWindowGeometry();
+    client_->setGeometry(rect().marginsRemoved(frame_.margins()));
+    update();
+}
 
 void FormView::build() {
     // Containers before what they hold; each widget takes its place in the
@@ -260,10 +278,15 @@ void FormView::formChanged(Prop p) {
     }
 }
 
+QPoint FormView::windowPlace() const {
+    const Control& self = form().self();
+    return pixelRect(self.number(Prop::Left), self.number(Prop::Top), 0, 0, zoom()).topLeft();
+}
+
 void FormView::applyWindowGeometry() {
     const Control& self = form().self();
-    const auto px = [](double twips) { return static_cast<int>(std::lround(toPixels(twips))); };
-    const QPoint place(px(self.number(Prop::Left)), px(self.number(Prop::Top)));
+    const auto px = [this](double twips) { return static_cast<int>(std::lround(toPixels(twips, zoom()))); };
+    const QPoint place = windowPlace();
     const QSize size(std::max(1, px(self.number(Prop::Width))), std::max(1, px(self.number(Prop::Height))));
     if (!isWindow()) return setGeometry(QRect(place, size));
     // The window is frameless: its geometry is the form's outer geometry,
@@ -320,8 +343,8 @@ bool FormView::endMove() {
     // The form learns where the window is, so that the profile file keeps it.
     const QPoint place = pos();
     context_.run([&] {
-        form().self().setNumber(Prop::Left, toTwips(place.x()));
-        form().self().setNumber(Prop::Top, toTwips(place.y()));
+        form().self().setNumber(Prop::Left, toTwips(place.x(), zoom()));
+        form().self().setNumber(Prop::Top, toTwips(place.y(), zoom()));
     });
     return true;
 }

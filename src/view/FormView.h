@@ -24,7 +24,8 @@ class FormClient;
 // keeps no state of the program: every widget shows what its control holds
 // and follows each change. A drag on the window's frame or on its background
 // moves it by the pointer's movement; the new position goes into the form's
-// Left and Top when the drag ends.
+// Left and Top when the drag ends. The window can be drawn at a zoom: the
+// form's twips stay as they are, only the pixels per twip change.
 class FormView : public QWidget, private FormObserver {
     Q_OBJECT
 public:
@@ -37,6 +38,14 @@ public:
     QWidget* widgetOf(const Control& c) const;
     // The area inside the frame, where the form's controls sit.
     QWidget* clientArea() const;
+
+    // Draws the window and all it shows at `zoom` times its designed size
+    // (1 for 100 %, see Twips.h). A window on the screen keeps its top-left
+    // corner where it is: its place in twips at the new zoom goes into the
+    // form's Left and Top, as after a drag. One not shown yet is placed
+    // where the form says, at the new zoom.
+    void setZoom(double zoom);
+    double zoom() const { return context_.zoom; }
 
     // Called once, when the window has been painted for the first time.
     std::function<void()> onFirstPaint;
@@ -72,6 +81,8 @@ private:
     void removeView(Control& c);
     void stack(ControlView& view);
     void orderTabs();
+    // Where the form puts the window, in pixels at the present zoom.
+    QPoint windowPlace() const;
     void applyWindowGeometry();
     void formChanged(Prop p);
     void notePainted();
@@ -82,6 +93,7 @@ private:
     bool endMove();
 
     ViewContext context_;
+    WindowFrame designFrame_;  // at 100 %
     WindowFrame frame_;
     FormClient* client_;
     std::unordered_map<const Control*, ControlView*> views_;

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QIcon>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPainterPathStroker>
@@ -362,17 +363,33 @@ void paintAppIcon(QPainter& painter, const QRectF& target) {
     painter.restore();
 }
 
-QIcon appIcon() {
-    QIcon icon;
-    for (int size : {16, 24, 32, 48, 64, 128, 256}) {
-        QPixmap pixmap(size, size);
+namespace {
+
+// The emblem drawn afresh at whatever size and density it is shown, so that
+// it stays crisp in a zoomed window's caption too.
+class EmblemEngine : public QIconEngine {
+public:
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+        paintAppIcon(*painter, QRectF(rect));
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        paintAppIcon(painter, QRectF(0, 0, size, size));
-        painter.end();
-        icon.addPixmap(pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
     }
-    return icon;
-}
+    QIconEngine* clone() const override { return new EmblemEngine; }
+    // What a window system asks for when it takes the icon as pixmaps.
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        QList<QSize> sizes;
+        for (int side : {16, 24, 32, 48, 64, 128, 256}) sizes.append(QSize(side, side));
+        return sizes;
+    }
+};
+
+}  // namespace
+
+QIcon appIcon() { return QIcon(new EmblemEngine); }
 
 }  // namespace brelk::view

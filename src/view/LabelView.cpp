@@ -1,5 +1,7 @@
 #include "LabelView.h"
 
+#include <cmath>
+
 #include <QPainter>
 
 #include "Twips.h"
@@ -33,7 +35,7 @@ void LabelView::apply(Prop p) {
 }
 
 void LabelView::applyFont() {
-    font_ = fontOf(*control_);
+    font_ = fontOf(*control_, context_.zoom);
     update();
 }
 
@@ -53,9 +55,10 @@ void LabelView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (control_->number(Prop::BackStyle) != 0) painter.fillRect(rect(), toColor(control_->number(Prop::BackColor)));
     if (control_->number(Prop::BorderStyle) == border::FixedSingle) {
-        // One dark line of one pixel around it, inside its rectangle.
-        painter.setPen(QPen(palette().color(QPalette::WindowText), 0));
-        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+        // One dark line around it, inside its rectangle: one pixel at 100 %.
+        const double line = std::max(1.0, std::round(context_.zoom));
+        painter.setPen(QPen(palette().color(QPalette::WindowText), line));
+        painter.drawRect(QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2));
     }
     // A CR, alone or before an LF, breaks the line as an LF does.
     const QString text = displayText(*control_).replace("\r\n", "\n").replace('\r', '\n');

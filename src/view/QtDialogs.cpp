@@ -104,8 +104,8 @@ void QtDialogs::centreOnOwner(FormView& window) {
     // The form keeps where its window stands.
     Form& form = window.form();
     guard_([&] {
-        form.self().setNumber(Prop::Left, toTwips(place.x()));
-        form.self().setNumber(Prop::Top, toTwips(place.y()));
+        form.self().setNumber(Prop::Left, toTwips(place.x(), window.zoom()));
+        form.self().setNumber(Prop::Top, toTwips(place.y(), window.zoom()));
     });
 }
 
@@ -148,6 +148,8 @@ void QtDialogs::showModal(Form& form) {
     window.setWindowFlags(tool ? Qt::Tool | Qt::FramelessWindowHint
                                : ownFrame ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog);
     window.setWindowModality(Qt::ApplicationModal);
+    // Drawn at the zoom of the main window, so it stands against it as designed.
+    if (const auto* owner = qobject_cast<const FormView*>(parent_.data())) window.setZoom(owner->zoom());
     if (form.self().number(Prop::StartUpPosition) == startup::CenterOwner) centreOnOwner(window);
     window.show();
     window.activateWindow();

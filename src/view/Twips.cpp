@@ -7,13 +7,13 @@
 
 namespace brelk::view {
 
-QRect pixelRect(double left, double top, double width, double height) {
-    const auto edge = [](double twips) { return static_cast<int>(std::lround(toPixels(twips))); };
+QRect pixelRect(double left, double top, double width, double height, double zoom) {
+    const auto edge = [zoom](double twips) { return static_cast<int>(std::lround(toPixels(twips, zoom))); };
     const int x = edge(left), y = edge(top);
     return QRect(x, y, std::max(0, edge(left + width) - x), std::max(0, edge(top + height) - y));
 }
 
-QFont fontOf(const Control& c) {
+QFont fontOf(const Control& c, double zoom) {
     QFont font;
     const QString name = QString::fromStdString(c.get(Prop::FontName).text());
     // Liberation Sans is metric compatible with Arial; the old bitmap UI fonts
@@ -22,8 +22,8 @@ QFont fontOf(const Control& c) {
     else font.setFamilies({"Liberation Sans", "DejaVu Sans", "Sans Serif"});
     font.setStyleHint(QFont::SansSerif);
     // Points at the window's 96 logical dots per inch, so text keeps its size
-    // relative to the twip geometry on every screen.
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(c.number(Prop::FontSize) * 96.0 / 72.0))));
+    // relative to the twip geometry on every screen and at every zoom.
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(c.number(Prop::FontSize) * zoom * 96.0 / 72.0))));
     font.setBold(c.flag(Prop::FontBold));
     font.setUnderline(c.flag(Prop::FontUnderline));
     return font;

@@ -19,13 +19,19 @@ constexpr double kBorderTwips = design::kFrameBorder;
 constexpr double kCaptionTwips = design::kFrameCaption;
 constexpr int kIconSize = 16;
 
-int pixels(double twips) { return static_cast<int>(std::lround(toPixels(twips))); }
+// At 100 %; a zoomed window's frame is this one grown.
+int pixels(double twips) { return static_cast<int>(std::lround(toPixels(twips, 1.0))); }
 
 }  // namespace
 
 WindowFrame WindowFrame::mainWindow() { return {pixels(kBorderTwips), pixels(kCaptionTwips)}; }
 
 WindowFrame WindowFrame::toolWindow() { return {pixels(kBorderTwips), pixels(kCaptionTwips), false}; }
+
+WindowFrame WindowFrame::zoomed(double zoom) const {
+    const auto grown = [zoom](int px) { return static_cast<int>(std::lround(px * zoom)); };
+    return {grown(border), grown(caption), icon};
+}
 
 void paintWindowFrame(QPainter& painter, const QRect& outer, const WindowFrame& frame, const QString& caption,
                       const QIcon& icon, const QPalette& palette) {
@@ -38,18 +44,22 @@ void paintWindowFrame(QPainter& painter, const QRect& outer, const WindowFrame& 
     painter.setClipRegion(ring);
     painter.fillRect(outer, palette.color(QPalette::Window));
     const QRect strip = frame.captionRect(outer);
+    // Lines, icon and caption grow with the strip when the window is zoomed.
+    const double scale = strip.height() / static_cast<double>(pixels(kCaptionTwips));
+    const auto grown = [scale](int px) { return std::max(1, static_cast<int>(std::lround(px * scale))); };
+    const int line = grown(1);
     painter.fillRect(strip, palette.color(QPalette::Window).darker(108));
-    painter.setPen(palette.color(QPalette::Mid));
-    painter.drawLine(strip.bottomLeft(), strip.bottomRight());
-    painter.setPen(palette.color(QPalette::Dark));
-    painter.drawRect(outer.adjusted(0, 0, -1, -1));
+    painter.fillRect(QRect(strip.left(), strip.bottom() + 1 - line, strip.width(), line), palette.color(QPalette::Mid));
+    painter.setClipRegion(ring.subtracted(QRegion(outer.marginsRemoved({line, line, line, line}))));
+    painter.fillRect(outer, palette.color(QPalette::Dark));
+    painter.setClipRegion(ring);
 
     // Icon and caption, muted, as on an inactive title bar.
-    int textLeft = strip.left() + 3;
-    if (frame.icon && !icon.isNull() && strip.height() >= kIconSize) {
-        const QRect iconRect(textLeft, strip.top() + (strip.height() - 1 - kIconSize) / 2, kIconSize, kIconSize);
+    int textLeft = strip.left() + grown(3);
+    if (const int side = grown(kIconSize); frame.icon && !icon.isNull() && strip.height() >= side) {
+        const QRect iconRect(textLeft, strip.top() + (strip.height() - 1 - side) / 2, side, side);
         icon.paint(&painter, iconRect);
-        textLeft = iconRect.right() + 5;
+        textLeft = iconRect.right() + grown(5);
     }
     QFont font = painter.font();
     font.setPixelSize(std::max(8, strip.height() * 11 / 19));

@@ -24,6 +24,8 @@ struct WindowFrame {
         return {outer.left() + border, outer.top() + border, outer.width() - 2 * border, caption};
     }
     bool isEmpty() const { return border == 0 && caption == 0; }
+    // The same frame drawn at `zoom` times its size (see Twips.h).
+    WindowFrame zoomed(double zoom) const;
 
     // The main window's frame: 60 twips of border and a 285-twip caption,
     // what the main window's row and size constants were made for.

@@ -103,7 +103,7 @@ private slots:
             QCOMPARE(about.width(), 515);
             wait(1000);
             QWidget* text = part(about, "lblThx");
-            QCOMPARE(text->y(), view::pixelRect(0, 2175 * kAboutTwipsPerUnitY, 0, 0).y());
+            QCOMPARE(text->y(), view::pixelRect(0, 2175 * kAboutTwipsPerUnitY, 0, 0, 1).y());
             QWidget* client = about.clientArea();
             const QRect hidden = text->geometry() & part(about, "Label4")->geometry() & client->rect();
             QWidget* top = about.childAt(client->mapTo(&about, hidden.center()));

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -26,6 +27,7 @@
 #include "platform/TimerScheduler.h"
 #include "forms/Brelk.h"
 #include "forms/Lifecycle.h"
+#include "zoom/qt/WindowZoom.h"
 
 using namespace brelk;
 
@@ -83,16 +85,17 @@ class MainWindowTest : public QObject {
     }
 
     // The widget agrees with its control: shown or hidden, place, tooltip,
-    // and for a label the very picture a new widget of the control draws.
+    // and for a label the very picture a new widget of the control draws,
+    // all at the window's zoom.
     void expectShows(Control& c) {
         QWidget* w = widget(c);
         QVERIFY(w);
         QCOMPARE(w->isHidden(), !c.visible());
         QCOMPARE(w->geometry(), view::pixelRect(c.number(Prop::Left), c.number(Prop::Top), c.number(Prop::Width),
-                                                c.number(Prop::Height)));
+                                                c.number(Prop::Height), window_->zoom()));
         QCOMPARE(w->toolTip().toStdString(), c.get(Prop::ToolTipText).text());
         if (c.kind() != ControlKind::Label) return;
-        const view::ViewContext context{f(), {}};
+        const view::ViewContext context{f(), {}, window_->zoom()};
         view::LabelView fresh(c, context, nullptr);
         fresh.syncAll();
         QCOMPARE(w->grab().toImage().convertToFormat(QImage::Format_RGB32),
@@ -250,6 +253,55 @@ private slots:
         program_->guarded([&] { f().self().setNumber(Prop::Left, -30000); });
         QCOMPARE(window_->pos().x(), -2000);
         QCOMPARE(f().self().number(Prop::Left), -30000.0);
+    }
+
+    void aZoomedWindowShowsTheSameFormLargerFromTheSameCorner() {
+        loadMap();
+        window_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+        // What the form holds of its controls' geometry and fonts.
+        const auto designed = [&] {
+            std::vector<double> numbers;
+            for (Control* c : f().controls())
+                for (Prop p : {Prop::Left, Prop::Top, Prop::Width, Prop::Height, Prop::FontSize})
+                    if (c != &f().self() && c->has(p)) numbers.push_back(c->number(p));
+            return numbers;
+        };
+        const std::vector<double> before = designed();
+        const QPoint corner = window_->pos();
+        const QSize size = window_->size();
+        const int text = widget(f().cmdMinPlus())->font().pixelSize();
+        zoom::qt::WindowZoom zoom(*window_, *services_);
+
+        // Ctrl and + (or =) twice: 150 %, 10 twips a pixel, from the same corner.
+        QTest::keyClick(window_.get(), Qt::Key_Plus, Qt::ControlModifier);
+        QTest::keyClick(window_.get(), Qt::Key_Equal, Qt::ControlModifier);
+        QCOMPARE(zoom.percent(), 150);
+        QCOMPARE(window_->pos(), corner);
+        QCOMPARE(f().self().number(Prop::Left), 10.0 * corner.x());
+        QVERIFY(qAbs(window_->width() - 1.5 * size.width()) <= 1 && qAbs(window_->height() - 1.5 * size.height()) <= 1);
+        QVERIFY(qAbs(widget(f().cmdMinPlus())->font().pixelSize() - 1.5 * text) <= 1);
+        QCOMPARE(designed(), before);
+        for (std::int16_t i = 1; i <= 9; ++i)
+            for (Control* c : {&f().lblFond(i), &f().lblItem(i), &f().lblTimer(i), &f().ico(i)}) expectShows(*c);
+        QCOMPARE(services_->screenWidth, 12800);  // the same screen in twips of this zoom
+        // A drag writes the window's place in twips, at this zoom.
+        QTest::mousePress(handle(), Qt::LeftButton, {}, QPoint(60, 12));
+        QTest::mouseMove(handle(), QPoint(90, 32));
+        QTest::mouseRelease(handle(), Qt::LeftButton, {}, QPoint(60, 12));
+        QCOMPARE(f().self().number(Prop::Top), 10.0 * (corner.y() + 20));
+        window_->activateWindow();  // which the offscreen platform's drag undoes
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+
+        // Ctrl and the wheel turned back a notch over a row: 125 %; Ctrl and 0: 100 %, as before.
+        QWheelEvent notch({5, 5}, {}, {}, {0, -120}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(widget(f().lblItem(2)), &notch);
+        QCOMPARE(zoom.percent(), 125);
+        QTest::keyClick(window_.get(), Qt::Key_0, Qt::ControlModifier);
+        QCOMPARE(window_->size(), size);
+        QCOMPARE(window_->pos(), corner + QPoint(30, 20));
+        QCOMPARE(f().self().number(Prop::Top), 15.0 * (corner.y() + 20));
+        QCOMPARE(designed(), before);
     }
 
     void closingTheWindowEndsTheProgramAsItsUnloadDoes() {

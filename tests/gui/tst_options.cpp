@@ -132,6 +132,17 @@ private slots:
         QVERIFY(windows_.topmost());
     }
 
+    void overAZoomedMainWindowItIsZoomedAndStandsAgainstIt() {
+        main_->setZoom(2);
+        withOptionsOpen([&] {
+            QCOMPARE(options_->zoom(), 2.0);
+            QCOMPARE(options_->geometry().topLeft(), main_->geometry().topRight() + QPoint(1, 0));
+            const Control& no = program_->frmOptions->at("optNo", 3);
+            QCOMPARE(widget("optNo(3)")->geometry(), view::pixelRect(no.number(Prop::Left), no.number(Prop::Top),
+                                                                    no.number(Prop::Width), no.number(Prop::Height), 2));
+        });
+    }
+
     void tabStopsAtTheChosenButtonOfARowAndEscCancels() {
         withOptionsOpen([&] {
             widget("optNo(9)")->setFocus();

@@ -83,7 +83,7 @@ private slots:
         send(QEvent::MouseButtonRelease, Qt::NoButton, Qt::LeftButton, QPoint(30, 20));
         QTest::lastMouseTimestamp += QTest::mouseDoubleClickInterval;
         QCOMPARE(window().pos(), real + QPoint(30, 20));
-        QCOMPARE(f().self().number(Prop::Top), view::toTwips(real.y() + 20));
+        QCOMPARE(f().self().number(Prop::Top), view::toTwips(real.y() + 20, 1));
     }
 
     void windowedControlsLieAboveLightOnesWhateverTheProgramDoes() {

@@ -18,6 +18,7 @@
 #include "map/Layout.h"
 #include "platform/Events.h"
 #include "platform/TimerScheduler.h"
+#include "zoom/Zoom.h"
 
 using namespace brelk;
 using namespace brelk::callouts;
@@ -39,7 +40,7 @@ struct RecordingVoice : Voice {
     void finish() { std::exchange(saying, nullptr)(); }
 };
 
-// One run of the program over `dir`, with call-outs kept in [Coach] as the program keeps them.
+// One run of the program over `dir`, with call-outs and zoom kept in [Coach] as the program keeps them.
 struct Session {
     TimerScheduler clock;
     doubles::ScriptedDialogs dialogs;
@@ -52,6 +53,7 @@ struct Session {
 
     explicit Session(const std::string& dir) : dialogs(clock, dir), services{clock, dialogs, windows, AppInfo{dir, "Brelk"}} {
         declareChoices(section);
+        zoom::declareZoom(section);
         callOuts.setChoices(readChoices(section));
         p.setEndListener([this] { section.writeChanged(); });
         p.start();
@@ -196,6 +198,7 @@ TEST_F(CallOutsTest, TheCoachSectionIsWrittenOnlyOnceChangedAndReadBackAtTheNext
     run = std::make_unique<Session>(dir);
     run->choose(Sound::Tone);
     run->choose(Sound::Off);
+    zoom::storeZoom(run->section, 200), zoom::storeZoom(run->section, zoom::kBuiltIn);
     run->exit();
     EXPECT_EQ(profile(), asDesigned);
 
@@ -204,12 +207,13 @@ TEST_F(CallOutsTest, TheCoachSectionIsWrittenOnlyOnceChangedAndReadBackAtTheNext
     run->choose(Sound::Tone);
     run->exit();
     EXPECT_TRUE(profile().endsWith("[Coach]\r\nCallOuts=Tone\r\n")) << profile().toStdString();
-    writeProfile(profile() + "CallOutLead=12\r\nCallOutUp=false\r\n");
+    writeProfile(profile() + "CallOutLead=12\r\nCallOutUp=false\r\nZoom=175\r\n");
     run = std::make_unique<Session>(dir);
     const Choices read = run->callOuts.choices();
     EXPECT_EQ(read.sound, Sound::Tone);
     EXPECT_EQ(read.lead, Choices{}.lead);
     EXPECT_FALSE(read.upCall);
+    EXPECT_EQ(zoom::readZoom(run->section), zoom::kBuiltIn);
     EXPECT_TRUE(run->dialogs.boxes.empty());
 }
 
