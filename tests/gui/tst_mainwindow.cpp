@@ -248,11 +248,6 @@ private slots:
         QTest::mouseMove(handle(), row + QPoint(15, 15));
         QTest::mouseRelease(handle(), Qt::LeftButton, {}, row + QPoint(15, 15));
         QCOMPARE(window_->pos(), start + QPoint(20, 25));
-
-        // The form's place moves the window, beyond the screen too.
-        program_->guarded([&] { f().self().setNumber(Prop::Left, -30000); });
-        QCOMPARE(window_->pos().x(), -2000);
-        QCOMPARE(f().self().number(Prop::Left), -30000.0);
     }
 
     void aZoomedWindowShowsTheSameFormLargerFromTheSameCorner() {
@@ -314,37 +309,6 @@ private slots:
         QVERIFY(profile.open(QIODevice::ReadOnly) && profile.readAll().contains("PosX=600"));
     }
 
-    void aRunningMatchDrawnOnADenseScreenIsCrisp() {
-        loadMap("Campgrounds.txt");
-        QVERIFY(program_->vars.ItemCount >= 5);
-        startMatch();
-        wait(95000);
-        // Rows 1 and 3 (the armours, 25 s) and row 4 (the mega, 35 s).
-        for (std::int16_t row : {1, 3, 4}) {
-            click(f().lblFond(row));
-            QVERIFY(f().timerItem(row).enabled());
-            wait(row == 4 ? 1100 : 10000);
-        }
-        // Drawn at two device pixels per logical pixel, pictures and text have
-        // detail that the same window drawn at one and doubled has not.
-        const auto drawn = [&](qreal density) {
-            QPixmap image(window_->size() * density);
-            image.setDevicePixelRatio(density);
-            image.fill(Qt::transparent);
-            window_->render(&image);
-            return image;
-        };
-        const QPixmap shot = drawn(2);
-        const QImage dense = shot.toImage(), doubled = drawn(1).toImage().scaled(window_->size() * 2);
-        for (Control* c : {&f().ico(1), &f().lblTimer(1)}) {
-            const QRect area(widget(*c)->mapTo(window_.get(), QPoint()) * 2, widget(*c)->size() * 2);
-            int differing = 0;
-            for (int y = area.top(); y <= area.bottom(); ++y)
-                for (int x = area.left(); x <= area.right(); ++x) differing += dense.pixel(x, y) != doubled.pixel(x, y);
-            QVERIFY2(differing > area.width() * area.height() / 20, c->displayName().c_str());
-        }
-    }
-
     void itsBoxesAreNativeWithTheirTitlesButtonsAndIcons() {
         // The program's boxes as Qt shows them: title, buttons, icon, plain text.
         const view::Guard plain = [](const std::function<void()>& a) { return a(), true; };
@@ -370,7 +334,6 @@ private slots:
             QVERIFY2(seen, qPrintable(r.title));
         }
     }
-
 };
 
 static GuiTestRegistrar registrar([]() -> QObject* { return new MainWindowTest; });
