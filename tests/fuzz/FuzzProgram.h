@@ -23,14 +23,6 @@ struct FuzzProgram {
     Brelk p{services};
 
     FuzzProgram() { p.start(); }
-    // Puts bytes into a file of the program's folder; its path.
-    std::string put(const std::string& name, const std::string& bytes) const {
-        files::writeAll(dir + "/" + name, bytes);
-        return dir + "/" + name;
-    }
-    std::string put(const std::string& name, const std::uint8_t* data, std::size_t size) const {
-        return put(name, std::string(reinterpret_cast<const char*>(data), size));
-    }
 };
 
 }  // namespace brelk::fuzz

@@ -11,8 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (f.p.vars.ItemCount > 200) brelk::FormInit(f.p);
     try {
         brelk::AddItem(f.p, text.substr(0, text.find('\r')));
-    } catch (const std::exception&) {
-        // a line the map format refuses: the loader's message
+    } catch (const std::exception&) {  // a line the map format refuses: the loader's message
     }
     return 0;
 }

@@ -4,7 +4,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static brelk::fuzz::FuzzProgram f;
-    f.put("map.txt", data, size);
+    brelk::files::writeAll(f.dir + "/map.txt", std::string(reinterpret_cast<const char*>(data), size));
     f.dialogs.boxes.clear();
     f.dialogs.openAnswers.push_back({"map.txt"});
     brelk::mnuLoad_Click(f.p);

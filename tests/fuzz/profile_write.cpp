@@ -1,53 +1,32 @@
-// One value written into a profile file of any bytes: it reads back as it
-// reads from a file that holds it alone, and every other line stays.
+// One value written into a profile file of any bytes: it reads back as from a
+// file that holds it alone, and around it every byte stays.
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <algorithm>
-#include <vector>
 
 #include "FuzzProgram.h"
 #include "settings/IniFile.h"
 
-namespace {
-
-// Line texts, without their ends (CR LF, LF or a lone CR).
-std::vector<std::string> lines(const std::string& text) {
-    std::vector<std::string> out;
-    for (std::size_t begin = 0, end; begin < text.size(); begin = end + (text.compare(end, 2, "\r\n") ? 1 : 2)) {
-        end = std::min(text.find_first_of("\r\n", begin), text.size());
-        out.push_back(text.substr(begin, end - begin));
-    }
-    return out;
-}
-
-}  // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using brelk::ini::readValue;
-    static brelk::fuzz::FuzzProgram f;
+    using namespace brelk;
+    static fuzz::FuzzProgram f;
     FuzzedDataProvider in(data, size);
     const std::string section = in.PickValueInArray({"Form", "Options", "Colors", "Stats", "a"});
     const std::string key = in.PickValueInArray({"PosX", "ListColor", "MatchDuration", "timeditems", "k"});
-    const std::string value = in.ConsumeRandomLengthString(300);
-    const std::string before = in.ConsumeRemainingBytesAsString();
-    const std::string path = f.put("fuzz.set", before);
+    const std::string value = in.ConsumeRandomLengthString(300), path = f.dir + "/fuzz.set";
+    if (value.find_first_of("\r\n") != std::string::npos) return 0;  // refused, as the unit tests show
+    files::writeAll(path, "[" + section + "]\r\n" + key + "=" + value + "\r\n");
+    const std::string alone = ini::readValue(path, section, key), before = in.ConsumeRemainingBytesAsString();
+    files::writeAll(path, before);
+    if (!ini::writeValue(path, section, key, value) || ini::readValue(path, section, key) != alone) __builtin_trap();
 
-    const bool written = brelk::ini::writeValue(path, section, key, value);
+    // What went lies within one line; what came is at most a line end, a section's header and the key.
     std::string after;
-    brelk::files::readRegularFile(path, after);
-    if (value.find_first_of("\r\n") != std::string::npos) {
-        if (written || after != before) __builtin_trap();  // a line break is refused, the file unchanged
-        return 0;
-    }
-    const std::string alone = f.put("alone.set", "[" + section + "]\r\n" + key + "=" + value + "\r\n");
-    if (!written || readValue(path, section, key) != readValue(alone, section, key)) __builtin_trap();
-
-    // Around the change the lines are the same: at most one went, at most two
-    // (a new section's header and the key) came.
-    const auto b = lines(before), a = lines(after);
-    std::size_t head = 0, tail = 0;
-    while (head < b.size() && head < a.size() && b[head] == a[head]) ++head;
-    while (tail < b.size() - head && tail < a.size() - head && b[b.size() - 1 - tail] == a[a.size() - 1 - tail]) ++tail;
-    if (b.size() - head - tail > 1 || a.size() - head - tail > 2) __builtin_trap();
+    files::readRegularFile(path, after);
+    const std::string_view b = before, a = after;
+    const auto head = std::mismatch(b.begin(), b.end(), a.begin(), a.end()).first - b.begin();
+    const auto tail = std::mismatch(b.rbegin(), b.rend() - head, a.rbegin(), a.rend() - head).first - b.rbegin();
+    const auto went = b.substr(head, b.size() - head - tail), came = a.substr(head, a.size() - head - tail);
+    if (went.find_first_of("\r\n") != went.npos || std::ranges::count(came, '\n') > 3) __builtin_trap();
     return 0;
 }
