@@ -121,8 +121,4 @@ TEST_F(Faults, KilledWritesLeaveAWholeProfileAndTheirLitterGoesAtTheNextWrite) {
     EXPECT_EQ(std::distance(fs::directory_iterator(dir), fs::directory_iterator()), 1) << "litter beside the profile";
 }
 
-TEST(FileWildcards, AStarMatchesAnyRunOfCharactersAlsoStars) {
-    EXPECT_TRUE(files::matchesPattern("*x.set", "*.set"));
-}
-
 }  // namespace
