@@ -30,10 +30,8 @@ private slots:
             QCOMPARE(about.x(), 0);
             QTest::keyClick(&about, Qt::Key_Escape);
         }) && p.windows.topmost());  // not on top while it was open only
-        p.guard([&] {
-            p.program->frmMain.self().setNumber(Prop::Left, 4500);
-            p.program->frmMain.self().setNumber(Prop::Top, 3000);
-        });
+        Control& main = p.program->frmMain.self();
+        p.guard([&] { main.setNumber(Prop::Left, 4500); main.setNumber(Prop::Top, 3000); });
         QVERIFY(p.withModal("mnuAbout", [&](view::FormView& about) {
             const auto part = [&](const char* name) { return about.findChild<QWidget*>(name); };
             const auto at = [&](const char* name) { return part(name)->mapTo(&about, part(name)->rect().center()); };
@@ -42,13 +40,15 @@ private slots:
             QVERIFY((about.geometry().center() - p.main->geometry().center()).manhattanLength() <= 2);
             for (const char* name : {"picIcon", "Label2"})
                 QCOMPARE(part(name)->cursor().shape(), Qt::PointingHandCursor);
-            // The text rolls up in the window's units, behind the lower mask.
+            // The text rolls up in the window's units, behind the masks above and below it.
             QTest::mouseClick(about.windowHandle(), Qt::LeftButton, {}, at("cmdThx"));
-            p.guard([&] { p.clock.advanceBy(1000); });
-            QCOMPARE(part("lblThx")->y(), view::pixelRect(0, 2175 * kAboutTwipsPerUnitY, 0, 0).y());
+            p.guard([&] { p.clock.advanceBy(20000); });
+            QCOMPARE(part("lblThx")->y(), view::pixelRect(0, -200 * kAboutTwipsPerUnitY, 0, 0).y());
             QWidget* client = about.clientArea();
-            const QRect hidden = part("lblThx")->geometry() & part("Label4")->geometry() & client->rect();
-            QCOMPARE(client->childAt(hidden.center()), part("Label4"));
+            for (QWidget* mask : {part("Label3"), part("Label4"), part("Label5")}) {
+                const QRect hidden = part("lblThx")->geometry() & (mask ? mask->geometry() : QRect()) & client->rect();
+                QVERIFY(mask && client->childAt(hidden.center()) == mask);
+            }
             // The pointer lights the link up, also on its way over another control, not over the bare window.
             for (const char* over : {"Label2", "lblDescription", ""}) {
                 QTest::mouseMove(about.windowHandle(), *over ? at(over) : client->mapTo(&about, QPoint(40, 100)));
