@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include "MainWindow.h"
+#include "QtDialogs.h"
+#include "forms/Brelk.h"
+#include "platform/TimerScheduler.h"
+
+// A program started in a folder of its own, over the real main window and
+// Qt's own dialogs; its clock moves only when the test says.
+struct RealProgram {
+    QTemporaryDir dir;
+    brelk::TimerScheduler clock;
+    brelk::view::Guard guard = [this](const std::function<void()>& a) { return program->guarded(a); };
+    brelk::view::QtDialogs dialogs{guard};
+    brelk::view::QtWindowSystem windows;
+    brelk::Services services{clock, dialogs, windows, brelk::AppInfo{dir.path().toStdString(), "brelk", 1, 0, 0}};
+    std::unique_ptr<brelk::Program> program = std::make_unique<brelk::Brelk>(services);
+    std::unique_ptr<brelk::view::FormView> main = brelk::view::createMainWindow(program->frmMain, guard);
+
+    RealProgram() {
+        dialogs.setParentWindow(main.get());
+        windows.setMainWindow(main.get());
+        guard([&] { program->start(); });
+        main->show();
+    }
+
+    // Chooses a menu entry that opens a modal window and runs `steps` in it.
+    // True when they ran and closed the window; if they did not, it is closed here.
+    bool withModal(const char* entry, const std::function<void(brelk::view::FormView&)>& steps) {
+        bool closed = false;
+        QTimer::singleShot(0, [&] {
+            auto* window = qobject_cast<brelk::view::FormView*>(QApplication::activeModalWidget());
+            closed = window && QTest::qWaitForWindowActive(window);
+            if (closed) steps(*window);
+            for (brelk::Form* form : {program->frmOptions.get(), program->frmAbout.get()})
+                if (form && form->isLoaded()) {
+                    closed = false;
+                    guard([&] { form->Unload(); });
+                }
+        });
+        guard([&] { program->frmMain.raise(program->frmMain.at(entry), brelk::Event::Click); });
+        return closed && !program->frmOptions && !program->frmAbout;
+    }
+};
