@@ -20,16 +20,6 @@ constexpr const char* kMatchEnded = "Match Ended";
 // The clock's last minute starts when this many seconds are left.
 constexpr double kLastMinute = 60;
 
-std::optional<double> secondsOf(const std::string& text) {
-    try {
-        const double s = Secondes(text);
-        if (std::isnan(s)) return std::nullopt;
-        return s;
-    } catch (const RuntimeError&) {
-        return std::nullopt;
-    }
-}
-
 }  // namespace
 
 CallOuts::CallOuts(Program& p, Voice& voice) : p_(p), voice_(voice) {
@@ -69,7 +59,7 @@ void CallOuts::controlUnloading(Control& c) {
 }
 
 void CallOuts::rowTime(std::int16_t i, Control& label) {
-    const auto left = secondsOf(label.caption());
+    const auto left = timeSeconds(label.caption());
     if (!left) return;
     Row& r = rows_[i];
     const double before = r.left;

@@ -1,10 +1,8 @@
 #include "state/ClockReading.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 
-#include "platform/Errors.h"
 #include "platform/Numbers.h"
 #include "state/Program.h"
 #include "state/TimeText.h"
@@ -12,20 +10,7 @@
 namespace brelk {
 
 namespace {
-
 constexpr const char* kStandardLength = "20:00";
-
-// Seconds of a time text, or nothing when it is no time text.
-std::optional<double> timeSeconds(const std::string& text) {
-    try {
-        const double s = Secondes(text);
-        if (std::isnan(s)) return std::nullopt;
-        return s;
-    } catch (const RuntimeError&) {
-        return std::nullopt;
-    }
-}
-
 }  // namespace
 
 std::string matchDurationText(const ModVars& v) {

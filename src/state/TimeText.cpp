@@ -1,5 +1,6 @@
 #include "state/TimeText.h"
 
+#include <cmath>
 #include <cstdlib>
 
 #include "platform/Errors.h"
@@ -28,6 +29,16 @@ double Secondes(std::string_view temps) {
     const double seconds = num::strictValue(temps.substr(colon + 1));
     const bool negative = num::trimLeft(minutesPart).rfind('-', 0) == 0;
     return negative ? minutes * 60 - seconds : minutes * 60 + seconds;
+}
+
+std::optional<double> timeSeconds(std::string_view text) {
+    try {
+        const double s = Secondes(text);
+        if (std::isnan(s)) return std::nullopt;
+        return s;
+    } catch (const RuntimeError&) {
+        return std::nullopt;
+    }
 }
 
 }  // namespace brelk

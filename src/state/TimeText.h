@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,5 +17,8 @@ std::string Minutes(std::int16_t Secondes);
 // (run-time error 13 otherwise, also when there is no ":"). A leading minus
 // makes the whole reading negative, so that Secondes(Minutes(s)) == s.
 double Secondes(std::string_view temps);
+
+// Secondes of a text, or nothing when it is no time text.
+std::optional<double> timeSeconds(std::string_view text);
 
 }  // namespace brelk
