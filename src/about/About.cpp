@@ -49,11 +49,6 @@ std::string thanks() {
     return text;
 }
 
-// A handler that takes no arguments of its event.
-Handler plain(Program& p, void (*procedure)(Program&)) {
-    return [&p, procedure](const EventArgs&) { procedure(p); };
-}
-
 }  // namespace
 
 namespace about {

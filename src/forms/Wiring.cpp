@@ -15,15 +15,6 @@
 
 namespace brelk {
 
-namespace {
-
-// A handler that takes no arguments of its event.
-Handler plain(Program& p, void (*procedure)(Program&)) {
-    return [&p, procedure](const EventArgs&) { procedure(p); };
-}
-
-}  // namespace
-
 void wireMainForm(Program& p) {
     auto& f = p.frmMain;
 
@@ -42,9 +33,9 @@ void wireMainForm(Program& p) {
         f.on(name, Event::MouseDown, [&p](const EventArgs& a) { rowMouseDown(p, a.index, a.button); });
         f.on(name, Event::MouseUp, [&p](const EventArgs& a) { rowMouseUp(p, a.index, a.button); });
     }
-    f.on("timerItem", Event::Timer, [&p](const EventArgs& a) { timerItem_Timer(p, a.index); });
-    f.on("timerFlash", Event::Timer, [&p](const EventArgs& a) { timerFlash_Timer(p, a.index); });
-    f.on("timerClick", Event::Timer, [&p](const EventArgs& a) { timerClick_Timer(p, a.index); });
+    f.on("timerItem", Event::Timer, indexed(p, timerItem_Timer));
+    f.on("timerFlash", Event::Timer, indexed(p, timerFlash_Timer));
+    f.on("timerClick", Event::Timer, indexed(p, timerClick_Timer));
 
     // The match clock and its tune panel.
     for (const char* name : {"lblMatchStatus", "lblMatchTimer"}) {

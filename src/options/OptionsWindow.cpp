@@ -42,28 +42,22 @@ void UpdateForm(Program& p) {
 namespace {
 
 void wire(Program& p, Form& f) {
-    const auto plain = [&p](void (*procedure)(Program&)) {
-        return [&p, procedure](const EventArgs&) { procedure(p); };
-    };
-    const auto indexed = [&p](void (*procedure)(Program&, std::int16_t)) {
-        return [&p, procedure](const EventArgs& a) { procedure(p, a.index); };
-    };
-    f.on("frmOptions", Event::Load, plain(Form_Load));
-    f.on("optYes", Event::Click, indexed(optYes_Click));
-    f.on("optNo", Event::Click, indexed(optNo_Click));
-    f.on("txtLastSeconds", Event::LostFocus, plain(txtLastSeconds_LostFocus));
-    f.on("txtMatchDuration", Event::GotFocus, plain(txtMatchDuration_GotFocus));
+    f.on("frmOptions", Event::Load, plain(p, Form_Load));
+    f.on("optYes", Event::Click, indexed(p, optYes_Click));
+    f.on("optNo", Event::Click, indexed(p, optNo_Click));
+    f.on("txtLastSeconds", Event::LostFocus, plain(p, txtLastSeconds_LostFocus));
+    f.on("txtMatchDuration", Event::GotFocus, plain(p, txtMatchDuration_GotFocus));
     f.on("txtMatchDuration", Event::KeyDown, [&p](const EventArgs& a) {
         txtMatchDuration_KeyDown(p, static_cast<std::int16_t>(a.keyCode), static_cast<std::int16_t>(a.shift));
     });
-    f.on("txtMatchDuration", Event::LostFocus, plain(txtMatchDuration_LostFocus));
-    f.on("lblColor", Event::Click, indexed(lblColor_Click));
-    f.on("lblName", Event::Click, indexed(lblName_Click));
-    f.on("lstIniFiles", Event::Click, plain(lstIniFiles_Click));
-    f.on("cmdSave", Event::Click, plain(cmdSave_Click));
-    f.on("cmdSaveAs", Event::Click, plain(cmdSaveAs_Click));
-    f.on("cmdDelete", Event::Click, plain(cmdDelete_Click));
-    f.on("cmdCancel", Event::Click, plain(cmdCancel_Click));
+    f.on("txtMatchDuration", Event::LostFocus, plain(p, txtMatchDuration_LostFocus));
+    f.on("lblColor", Event::Click, indexed(p, lblColor_Click));
+    f.on("lblName", Event::Click, indexed(p, lblName_Click));
+    f.on("lstIniFiles", Event::Click, plain(p, lstIniFiles_Click));
+    f.on("cmdSave", Event::Click, plain(p, cmdSave_Click));
+    f.on("cmdSaveAs", Event::Click, plain(p, cmdSaveAs_Click));
+    f.on("cmdDelete", Event::Click, plain(p, cmdDelete_Click));
+    f.on("cmdCancel", Event::Click, plain(p, cmdCancel_Click));
 }
 
 }  // namespace

@@ -43,4 +43,16 @@ struct EventArgs {
 
 using Handler = std::function<void(const EventArgs&)>;
 
+// A procedure over the program's context as a handler: `plain` for one that
+// takes none of its event's arguments, `indexed` for one that takes the
+// member's index.
+template <typename Context>
+Handler plain(Context& c, void (*procedure)(Context&)) {
+    return [&c, procedure](const EventArgs&) { procedure(c); };
+}
+template <typename Context>
+Handler indexed(Context& c, void (*procedure)(Context&, std::int16_t)) {
+    return [&c, procedure](const EventArgs& a) { procedure(c, a.index); };
+}
+
 }  // namespace brelk
