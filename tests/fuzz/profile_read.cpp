@@ -1,10 +1,10 @@
 // Any bytes as a profile file: every key read alone, then as an option set.
-#include "FuzzProgram.h"
+#include "ScriptedProgram.h"
 #include "settings/IniFile.h"
 #include "settings/Settings.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static brelk::fuzz::FuzzProgram f;
+    static brelk::doubles::StartedProgram f;
     const std::string path = f.dir + "/fuzz.set";
     brelk::files::writeAll(path, std::string(reinterpret_cast<const char*>(data), size));
     for (const brelk::SharedVariable& s : brelk::sharedVariables())

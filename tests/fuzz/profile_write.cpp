@@ -4,12 +4,12 @@
 
 #include <algorithm>
 
-#include "FuzzProgram.h"
+#include "ScriptedProgram.h"
 #include "settings/IniFile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brelk;
-    static fuzz::FuzzProgram f;
+    static doubles::StartedProgram f;
     FuzzedDataProvider in(data, size);
     const std::string section = in.PickValueInArray({"Form", "Options", "Colors", "Stats", "a"});
     const std::string key = in.PickValueInArray({"PosX", "ListColor", "MatchDuration", "timeditems", "k"});

@@ -3,31 +3,24 @@
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <optional>
 #include <ostream>
 #include <sstream>
 #include <stdexcept>
 #include <vector>
 
-#include <QTemporaryDir>
-
 #include "ScenarioLexer.h"
-#include "ScriptedDialogs.h"
+#include "ScriptedProgram.h"
 #include "map/IconCatalogue.h"
 #include "map/Layout.h"
 #include "platform/Errors.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
-#include "platform/TimerScheduler.h"
-#include "forms/Brelk.h"
-
 
 namespace brelk::scenario {
 
 using doubles::Answer;
 using doubles::ScriptedDialogs;
-using doubles::ScriptedWindows;
 
 namespace {
 
@@ -75,21 +68,16 @@ std::vector<std::string> splitLines(const std::string& bytes) {
 class Run {
 public:
     Run(std::string file, std::ostream& out) : file_(std::move(file)), out_(out) {
-        if (!tmp_.isValid()) throw std::runtime_error("cannot make a temporary directory");
-        dir_ = tmp_.path().toStdString();
-        dialogs_.emplace(clock_, dir_);
-        services_.emplace(Services{clock_, *dialogs_, windows_, AppInfo{dir_, "Brelk"}, 19200});
-        program_.emplace(*services_);
+        if (!world_.tmp.isValid()) throw std::runtime_error("cannot make a temporary directory");
         // A modal form takes the following commands until it is unloaded;
         // then the action that opened it goes on.
-        dialogs_->whileModal = [this](Form& form) {
+        dialogs_.whileModal = [this](Form& form) {
             const std::size_t opener = lineNo_;
-            runLines([&] { return form.isLoaded() && !program_->ended(); });
+            runLines([&] { return form.isLoaded() && !program_.ended(); });
             lineNo_ = opener;
-            if (program_->ended()) throw ProgramEnded{};
+            if (program_.ended()) throw ProgramEnded{};
         };
     }
-    ~Run() { program_.reset(); }
 
     Tally execute() {
         std::ifstream in(file_, std::ios::binary);
@@ -156,8 +144,8 @@ private:
         else fail(what);
     }
     void reportDialogProblems() {
-        for (const auto& p : dialogs_->problems) broken(p);
-        dialogs_->problems.clear();
+        for (const auto& p : dialogs_.problems) broken(p);
+        dialogs_.problems.clear();
     }
 
     static const std::string& word(const std::vector<Token>& t, std::size_t i) {
@@ -190,8 +178,8 @@ private:
     };
 
     Form& formNamed(const std::string& name) {
-        if (name == "frmMain") return program_->frmMain;
-        const auto& modal = name == "frmOptions" ? program_->frmOptions : program_->frmAbout;
+        if (name == "frmMain") return program_.frmMain;
+        const auto& modal = name == "frmOptions" ? program_.frmOptions : program_.frmAbout;
         if (!modal || !modal->isLoaded()) throw LineError(name + " is not open");
         return *modal;
     }
@@ -210,7 +198,7 @@ private:
     Target resolve(const std::vector<std::string>& parts) {
         if (parts.empty()) throw LineError("missing target");
         std::size_t i = 0;
-        Form* form = &program_->frmMain;
+        Form* form = &program_.frmMain;
         if (isFormName(parts[0])) {
             form = &formNamed(parts[0]);
             ++i;
@@ -286,8 +274,8 @@ private:
 
     // Runs an action of the user; the program's end is absorbed.
     void act(const std::function<void()>& action) {
-        if (program_->ended()) throw LineError("the program has ended");
-        program_->guarded(action);
+        if (program_.ended()) throw LineError("the program has ended");
+        program_.guarded(action);
     }
 
     void writeBlock(const std::string& name, const std::vector<std::string>& lines) {
@@ -297,10 +285,9 @@ private:
     }
 
     std::optional<std::string> readFile(const std::string& name) {
-        const std::string path = files::join(dir_, name);
-        if (!files::exists(path)) return std::nullopt;
-        std::ifstream in(path, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+        std::string bytes;
+        if (files::readRegularFile(files::join(dir_, name), bytes) != files::ReadStatus::Ok) return std::nullopt;
+        return bytes;
     }
 
     void expectLines(const std::string& name, const std::vector<std::string>& expected) {
@@ -332,22 +319,22 @@ private:
             if (t[3].text != "after" || t.size() != 5) throw LineError("expected 'after MS'");
             a.afterMs = millis(t[4].text);
         }
-        if (kind == "open") dialogs_->openAnswers.push_back(a);
+        if (kind == "open") dialogs_.openAnswers.push_back(a);
         else if (kind == "msgbox") {
             if (a.value != "ok" && a.value != "cancel" && a.value != "yes" && a.value != "no")
                 throw LineError("bad msgbox answer " + a.value);
-            dialogs_->msgboxAnswers.push_back(a);
-        } else if (kind == "input") dialogs_->inputAnswers.push_back(a);
+            dialogs_.msgboxAnswers.push_back(a);
+        } else if (kind == "input") dialogs_.inputAnswers.push_back(a);
         else if (kind == "color") {
             // A colour dialog gives a whole colour of 24 bits.
             if (!a.cancel && !(num::isStrictNumber(a.value) && num::strictValue(a.value) >= 0 &&
                                num::strictValue(a.value) <= 0xFFFFFF &&
                                num::strictValue(a.value) == std::floor(num::strictValue(a.value))))
                 throw LineError("bad colour " + a.value);
-            dialogs_->colorAnswers.push_back(a);
+            dialogs_.colorAnswers.push_back(a);
         } else if (kind == "popup") {
             if (t.size() != 3) throw LineError("a popup answer takes no 'after'");
-            dialogs_->popupAnswers.push_back(a);
+            dialogs_.popupAnswers.push_back(a);
         } else throw LineError("unknown dialog kind " + kind);
     }
 
@@ -357,14 +344,14 @@ private:
             arity(t, 5, 5);
             if (t[3].text != "=") throw LineError("expected '='");
             if (!varKind(t[2].text)) throw LineError("unknown variable " + t[2].text);
-            const Value actual = readVar(program_->vars, t[2].text);
+            const Value actual = readVar(program_.vars, t[2].text);
             const Value expected = value(t[4]);
             return check(equal(actual, expected),
                          "var " + t[2].text + ": expected " + show(expected) + ", found " + show(actual));
         }
         if (what == "msgbox") {
             arity(t, 4, 4);
-            for (auto& box : dialogs_->boxes) {
+            for (auto& box : dialogs_.boxes) {
                 if (box.checked) continue;
                 box.checked = true;
                 return check(box.title == t[2].text && box.prompt == t[3].text,
@@ -377,7 +364,7 @@ private:
             arity(t, 3, 4);
             if (t[2].text == "msgbox") {
                 std::string unchecked;
-                for (auto& box : dialogs_->boxes)
+                for (auto& box : dialogs_.boxes)
                     if (!box.checked) {
                         unchecked += " " + quote(box.title) + " " + quote(box.prompt) + ";";
                         box.checked = true;
@@ -392,12 +379,12 @@ private:
         }
         if (what == "popup") {
             arity(t, 3, 3);
-            return check(dialogs_->lastPopup == t[2].text,
-                         "popup: expected " + t[2].text + ", found " + dialogs_->lastPopup.value_or("(none)"));
+            return check(dialogs_.lastPopup == t[2].text,
+                         "popup: expected " + t[2].text + ", found " + dialogs_.lastPopup.value_or("(none)"));
         }
         if (what == "ended") {
             arity(t, 2, 2);
-            return check(program_->ended(), "the program has not ended");
+            return check(program_.ended(), "the program has not ended");
         }
         if (what == "file") {
             arity(t, 5, 5);
@@ -434,19 +421,19 @@ private:
         if (cmd == "screen") {
             arity(t, 4, 4);
             if (t[1].text != "width" || !num::isStrictNumber(t[3].text)) throw LineError("expected 'screen width N'");
-            services_->screenWidth = static_cast<int>(num::strictValue(t[3].text));
+            world_.services.screenWidth = static_cast<int>(num::strictValue(t[3].text));
             return;
         }
         if (cmd == "start") {
             arity(t, 1, 1);
-            if (program_->frmMain.isLoaded()) throw LineError("the program has started already");
-            return act([&] { program_->start(); });
+            if (program_.frmMain.isLoaded()) throw LineError("the program has started already");
+            return act([&] { program_.start(); });
         }
         if (cmd == "set") {
             if (t.size() == 5 && t[1].text == "var") {
                 if (t[3].text != "=") throw LineError("expected '='");
                 if (!varKind(t[2].text)) throw LineError("unknown variable " + t[2].text);
-                writeVar(program_->vars, t[2].text, value(t[4]));
+                writeVar(program_.vars, t[2].text, value(t[4]));
                 return;
             }
             arity(t, 4, 4);
@@ -466,10 +453,10 @@ private:
             const std::string text = t[1].text;
             act([&] {
                 try {
-                    if (cmd == "additem") AddItem(*program_, text);
-                    else AddCategory(*program_, text);
+                    if (cmd == "additem") AddItem(program_, text);
+                    else AddCategory(program_, text);
                 } catch (const RuntimeError& e) {
-                    program_->reportError(e);
+                    program_.reportError(e);
                 }
             });
             return;
@@ -510,11 +497,11 @@ private:
         }
         if (cmd == "menu") {
             arity(t, 2, 2);
-            Control* entry = program_->frmMain.find(t[1].text);
+            Control* entry = program_.frmMain.find(t[1].text);
             if (!entry || entry->kind() != ControlKind::Menu) throw LineError("unknown menu entry " + t[1].text);
-            if (!program_->frmMain.hasHandler(t[1].text, Event::Click))
+            if (!program_.frmMain.hasHandler(t[1].text, Event::Click))
                 throw LineError(t[1].text + " is not available yet");
-            return act([&] { program_->frmMain.raise(*entry, Event::Click); });
+            return act([&] { program_.frmMain.raise(*entry, Event::Click); });
         }
         if (cmd == "key") {
             arity(t, 3, 3);
@@ -577,7 +564,7 @@ private:
         if (cmd == "wait") {
             arity(t, 2, 2);
             const auto ms = millis(t[1].text);
-            if (program_->ended()) {
+            if (program_.ended()) {
                 clock_.advanceBy(ms);
                 return;
             }
@@ -588,13 +575,11 @@ private:
 
     std::string file_;
     std::ostream& out_;
-    QTemporaryDir tmp_;
-    std::string dir_;
-    TimerScheduler clock_;
-    ScriptedWindows windows_;
-    std::optional<ScriptedDialogs> dialogs_;
-    std::optional<Services> services_;
-    std::optional<Brelk> program_;
+    doubles::ScriptedProgram world_;
+    const std::string& dir_ = world_.dir;
+    TimerScheduler& clock_ = world_.clock;
+    ScriptedDialogs& dialogs_ = world_.dialogs;
+    Brelk& program_ = world_.p;
     Tally tally_;
     std::vector<std::string> lines_;
     std::size_t next_ = 0;  // the next line to run

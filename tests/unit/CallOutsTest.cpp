@@ -2,17 +2,12 @@
 // profile file's [Coach] section over whole runs of the program.
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
 #include <utility>
 
-#include "ScriptedDialogs.h"
+#include "ScriptedProgram.h"
 #include "callouts/CallOuts.h"
 #include "extras/CoachSection.h"
-#include "forms/Brelk.h"
 #include "map/Layout.h"
-#include "platform/Files.h"
-#include "platform/TimerScheduler.h"
 #include "settings/IniFile.h"
 #include "zoom/Zoom.h"
 
@@ -24,14 +19,7 @@ namespace {
 
 // The program with call-outs kept in [Coach], heard by the test itself: each call with a star per
 // tone, and while `holding`, said until finish().
-struct CallOutsTest : ::testing::Test, Voice {
-    QTemporaryDir tmp;
-    std::string dir = tmp.path().toStdString();
-    TimerScheduler clock;
-    doubles::ScriptedDialogs dialogs{clock, dir};
-    doubles::ScriptedWindows windows;
-    Services services{clock, dialogs, windows, AppInfo{dir, "Brelk"}};
-    Brelk p{services};
+struct CallOutsTest : ::testing::Test, doubles::ScriptedProgram, Voice {
     MainForm& f = p.frmMain;
     extras::CoachSection section{services.app};
     CallOuts callOuts{p, *this};
@@ -90,7 +78,7 @@ TEST_F(CallOutsTest, CallsDueTogetherWaitTheirTurnAndStaleOnesAreDropped) {
                                  "rocket launcher up **"}));
     // A map loaded while a call waits makes it stale.
     ASSERT_EQ(callOuts.waiting(), 1u);
-    files::writeAll(dir + "/small.txt", "RA:20\r\n");
+    put("small.txt", "RA:20\r\n");
     dialogs.openAnswers.push_back({"small.txt"});
     f.raise(f.at("mnuLoad"), Event::Click);
     finish();

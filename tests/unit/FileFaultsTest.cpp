@@ -7,19 +7,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QTemporaryDir>
-
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
 #include <memory>
 
-#include "ScriptedDialogs.h"
-#include "forms/Brelk.h"
+#include "ScriptedProgram.h"
 #include "forms/Lifecycle.h"
 #include "map/Loader.h"
-#include "platform/Files.h"
-#include "platform/TimerScheduler.h"
 #include "settings/IniFile.h"
 #include "settings/Settings.h"
 
@@ -41,21 +36,12 @@ struct Running : Brelk {
     explicit Running(Services& services) : Brelk(services) { start(); }
 };
 
-struct Faults : ::testing::Test {
-    QTemporaryDir tmp;
-    std::string dir = tmp.path().toStdString(), profile = dir + "/Brelk.ini";
-    TimerScheduler clock;
-    doubles::ScriptedDialogs dialogs{clock, dir};
-    doubles::ScriptedWindows windows;
-    Services services{clock, dialogs, windows, AppInfo{dir, "Brelk"}};
-
-    std::string put(const std::string& name, const std::string& bytes) const {
-        files::writeAll(dir + "/" + name, bytes);
-        return dir + "/" + name;
-    }
+struct Faults : ::testing::Test, doubles::ScriptedServices {
+    std::string profile = dir + "/Brelk.ini";
     std::unique_ptr<Running> started() { return std::make_unique<Running>(services); }
     void load(const std::string& name, const std::string& bytes) {
-        dialogs.openAnswers.push_back({fs::path(put(name, bytes)).filename()});
+        put(name, bytes);
+        dialogs.openAnswers.push_back({name});
         mnuLoad_Click(*started());
     }
 };

@@ -4,36 +4,20 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
-#include <string>
-
-#include "ScriptedDialogs.h"
-#include "forms/Brelk.h"
+#include "ScriptedProgram.h"
 #include "map/Loader.h"
 #include "platform/Numbers.h"
-#include "platform/TimerScheduler.h"
 
 using namespace brelk;
 
 namespace {
 
-struct MapFiles : ::testing::Test {
-    QTemporaryDir tmp;
-    std::string dir = tmp.path().toStdString();
-    TimerScheduler clock;
-    doubles::ScriptedDialogs dialogs{clock, dir};
-    doubles::ScriptedWindows windows;
-    Services services{clock, dialogs, windows, AppInfo{dir, "Brelk"}};
-    Brelk p{services};
-
-    void SetUp() override { p.start(); }
-    void load(const QString& name, const QByteArray& bytes) {
-        QFile file(tmp.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        file.close();
+struct MapFiles : ::testing::Test, doubles::StartedProgram {
+    void load(const std::string& name, const QByteArray& bytes) {
+        put(name, bytes.toStdString());
         dialogs.boxes.clear();
-        dialogs.openAnswers.push_back({name.toStdString()});
+        dialogs.openAnswers.push_back({name});
         mnuLoad_Click(p);
     }
 };
@@ -48,7 +32,7 @@ TEST_F(MapFiles, EveryShippedMapLoadsWithAPictureAndAWholeDelayOnEveryRow) {
         ASSERT_TRUE(source.open(QIODevice::ReadOnly));
         const QByteArray bytes = source.readAll();
         EXPECT_EQ(bytes.count('\n'), bytes.count("\r\n")) << "every line ends with CR LF";
-        load(name, bytes);
+        load(name.toStdString(), bytes);
         EXPECT_TRUE(dialogs.boxes.empty()) << (dialogs.boxes.empty() ? "" : dialogs.boxes[0].prompt);
         EXPECT_GT(p.vars.ItemCount, 0);
         for (std::int16_t i = 1; i <= p.vars.ItemCount; ++i) {
