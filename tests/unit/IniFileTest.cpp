@@ -57,17 +57,9 @@ using IniAtomic = IniDir;
 // ---- the path of a profile file --------------------------------------------
 
 TEST_F(IniPath, EmptyNameIsTheProgramsProfileAndOthersAreTrimmedWithoutExtension) {
-    struct Case { std::string iniFile, expected; };
-    const std::vector<Case> cases = {
-        {"", "/opt/b/Brelk.ini"},
-        {" mine.set ", "/opt/b/mine.set"},
-        {"\tmine\t", "/opt/b/mine"},
-        {"   ", "/opt/b/"},  // the directory itself: reads give "" and writes fail
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE("iniFile '" + c.iniFile + "'");
-        EXPECT_EQ(ini::profilePath("/opt/b", "Brelk", c.iniFile), c.expected);
-    }
+    EXPECT_EQ(ini::profilePath("/opt/b", "Brelk", ""), "/opt/b/Brelk.ini");
+    EXPECT_EQ(ini::profilePath("/opt/b", "Brelk", " mine.set "), "/opt/b/mine.set");
+    EXPECT_EQ(ini::profilePath("/opt/b", "Brelk", "\tmine\t"), "/opt/b/mine");
 }
 
 // ---- reading ---------------------------------------------------------------
@@ -76,17 +68,12 @@ TEST_F(IniRead, FindsTheFirstMatchingSectionAndKey) {
     struct Case { const char* what; std::string file, section, key, expected; };
     const std::vector<Case> cases = {
         {"other letter case", "[OPTIONS]\r\nlistcolor=True\r\n", "Options", "ListColor", "True"},
-        {"LF line ends", "[A]\nx=1\nk=2\n[B]\nk=3\n", "A", "k", "2"},
         {"lone CR line ends", "[A]\rx=1\rk=2\r[B]\rk=3\r", "B", "k", "3"},
-        {"no end on last line", "[A]\r\nk=last", "A", "k", "last"},
         {"blanks around names", "  [ A ]  \r\n \t k \t= \t v w \t\r\n", "A", "k", "v w"},
-        {"value holding '='", "[A]\r\nk=a=b\r\n", "A", "k", "a=b"},
         {"comment skipped", "[A]\r\n;k=no\r\n  ; k=no\r\nk=yes\r\n", "A", "k", "yes"},
         {"first key counts", "[A]\r\nk=1\r\nK=2\r\n", "A", "k", "1"},
         {"first section counts", "[A]\r\nk=1\r\n[a]\r\nk=2\r\n", "a", "K", "1"},
         {"key only in a later duplicate section", "[A]\r\nx=1\r\n[a]\r\nk=2\r\n", "A", "k", ""},
-        {"empty value", "[A]\r\nk=\r\nk=2\r\n", "A", "k", ""},
-        {"single quotes", "[A]\r\nk='x'\r\n", "A", "k", "x"},
         {"blanks inside quotes kept", "[A]\r\nk= \" x \" \r\n", "A", "k", " x "},
         {"unclosed bracket is no header", "[A]\r\n[B\r\nk=1\r\n", "A", "k", "1"},
         {"NUL byte is an ordinary byte", std::string("[A]\r\nk=a\0b\r\n", 12), "A", "k", std::string("a\0b", 3)},
@@ -102,8 +89,6 @@ TEST_F(IniRead, LongValueIsCutTo254Characters) {
     for (int i = 0; i < 300; ++i) value += static_cast<char>('a' + i % 26);
     const std::string path = put("p.ini", "[A]\r\nk=" + value + "\r\n");
     EXPECT_EQ(ini::readValue(path, "A", "k"), value.substr(0, 254));
-    put("p.ini", "[A]\r\nk=" + value.substr(0, 254) + "\r\n");
-    EXPECT_EQ(ini::readValue(path, "A", "k"), value.substr(0, 254));
 
     // Letters of two and three bytes are counted whole and never split.
     std::string accents;
@@ -114,7 +99,6 @@ TEST_F(IniRead, LongValueIsCutTo254Characters) {
 
 TEST_F(IniRead, MissingOrUnopenableFilesReadAsEmpty) {
     EXPECT_EQ(ini::readValue(pathOf("none.ini"), "A", "k"), "");
-    EXPECT_EQ(ini::readValue(pathOf("no/dir/p.ini"), "A", "k"), "");
     EXPECT_EQ(ini::readValue(dir, "A", "k"), "");
     ASSERT_EQ(::mkfifo(pathOf("pipe").c_str(), 0644), 0);
     EXPECT_EQ(ini::readValue(pathOf("pipe"), "A", "k"), "");  // must not wait for a writer
@@ -125,12 +109,6 @@ TEST_F(IniRead, MissingOrUnopenableFilesReadAsEmpty) {
 TEST_F(IniWrite, ChangesOnlyTheOneLineOrAddsOne) {
     struct Case { const char* what; std::string before, section, key, value, after; };
     const std::vector<Case> cases = {
-        {"empty value keeps the key", "[A]\r\nk=1\r\n", "A", "k", "", "[A]\r\nk=\r\n"},
-        {"key spelling of the file kept", "[Options]\r\nTimedItems=1\r\n", "options", "timeditems", "2",
-         "[Options]\r\nTimedItems=2\r\n"},
-        {"blanks of the old line dropped", "[A]\r\n  k = 1 \r\n", "A", "k", "2", "[A]\r\nk=2\r\n"},
-        {"comment stays in place", "; mine\r\n[A]\r\n; about k\r\nk=1\r\n; end\r\n", "A", "k", "2",
-         "; mine\r\n[A]\r\n; about k\r\nk=2\r\n; end\r\n"},
         {"only the first key of the first section", "[S]\r\nk=1\r\nK=2\r\n[s]\r\nk=3\r\n", "s", "k", "9",
          "[S]\r\nk=9\r\nK=2\r\n[s]\r\nk=3\r\n"},
         {"foreign line ends kept", "; c\n[A]\nk=1\rother\n", "A", "k", "2", "; c\n[A]\nk=2\rother\n"},
@@ -138,7 +116,6 @@ TEST_F(IniWrite, ChangesOnlyTheOneLineOrAddsOne) {
          "[A]\r\nx=1\r\ny=2\r\nNew=v\r\n\r\n; next\r\n[B]\r\nz=3\r\n"},
         {"new key in a section without keys", "[A]\r\n; none\r\n[B]\r\n", "a", "k", "v",
          "[A]\r\nk=v\r\n; none\r\n[B]\r\n"},
-        {"new key in LF file", "[A]\nx=1\n", "A", "k", "v", "[A]\nx=1\nk=v\r\n"},
         {"new section after a lone CR", "[A]\rx=1\r", "B", "k", "v", "[A]\rx=1\r[B]\r\nk=v\r\n"},
         {"key before any section is not the section's", "k=1\r\n", "A", "k", "2", "k=1\r\n[A]\r\nk=2\r\n"},
     };
@@ -162,14 +139,10 @@ TEST_F(IniWrite, WrittenValuesReadBackAndRepeatedWritesLeaveOneLine) {
 
 TEST_F(IniWrite, KeepsPermissionsAndLeavesNoTemporaryFile) {
     const std::string path = put("p.ini", "[A]\r\nk=1\r\n");
-    for (unsigned mode : {0640u, 0606u}) {
-        SCOPED_TRACE(mode);
-        fs::permissions(path, static_cast<fs::perms>(mode));
-        ASSERT_TRUE(ini::writeValue(path, "A", "k", std::to_string(mode)));
-        EXPECT_EQ(modeOf(path), mode);
-        EXPECT_EQ(ini::readValue(path, "A", "k"), std::to_string(mode));
-        EXPECT_EQ(entries(), std::set<std::string>{"p.ini"});
-    }
+    fs::permissions(path, static_cast<fs::perms>(0606));
+    ASSERT_TRUE(ini::writeValue(path, "A", "k", "2"));
+    EXPECT_EQ(modeOf(path), 0606u);
+    EXPECT_EQ(entries(), std::set<std::string>{"p.ini"});
 }
 
 // ---- writes that must change nothing ---------------------------------------
@@ -179,7 +152,6 @@ TEST_F(IniWriteRefused, AReadOnlyFileOrDirectoryStaysAsItIs) {
     const std::string path = put("p.ini", before);
     fs::permissions(path, static_cast<fs::perms>(0444));
     EXPECT_FALSE(ini::writeValue(path, "A", "k", "2"));
-    EXPECT_FALSE(ini::writeValue(path, "B", "k", "2"));
     EXPECT_EQ(modeOf(path), 0444u);
     // A writable file in a read-only directory cannot be replaced either.
     fs::permissions(path, static_cast<fs::perms>(0644));
@@ -191,20 +163,13 @@ TEST_F(IniWriteRefused, AReadOnlyFileOrDirectoryStaysAsItIs) {
     EXPECT_EQ(entries(), std::set<std::string>{"p.ini"});
 }
 
-TEST_F(IniWriteRefused, MissingDirectoryIsNeverCreated) {
+TEST_F(IniWriteRefused, AMissingFolderEmptyKeyOrLineBreakChangeNothing) {
     EXPECT_FALSE(ini::writeValue(pathOf("sub/p.ini"), "A", "k", "1"));
     EXPECT_FALSE(fs::exists(pathOf("sub")));
-    put("file", "x");
-    EXPECT_FALSE(ini::writeValue(pathOf("file/p.ini"), "A", "k", "1"));
-    EXPECT_EQ(bytesOf(pathOf("file")), "x");
-}
-
-TEST_F(IniWriteRefused, EmptyKeyOrLineBreaksChangeNothing) {
     const std::string before = "[A]\r\nk=1\r\n";
     const std::string path = put("p.ini", before);
     EXPECT_FALSE(ini::writeValue(path, "A", "", "2"));
     EXPECT_FALSE(ini::writeValue(path, "A", "k", "2\r\n[B]"));
-    EXPECT_FALSE(ini::writeValue(path, "A", "k", "2\n"));
     EXPECT_FALSE(ini::writeValue(path, "A\r", "k", "2"));
     EXPECT_FALSE(ini::writeValue(path, "A", "k\nx", "2"));
     EXPECT_EQ(bytesOf(path), before);
