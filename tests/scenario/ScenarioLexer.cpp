@@ -1,71 +1,71 @@
 #include "ScenarioLexer.h"
 
-#include <cctype>
+#include <charconv>
 #include <stdexcept>
+#include <string_view>
 
 namespace brelk::scenario {
 
 namespace {
 
-int hexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-}
+// Escaped letters and the bytes they stand for, in the same order.
+constexpr std::string_view kEscapes = "\"\\rnt", kEscaped = "\"\\\r\n\t";
 
 }  // namespace
 
 std::vector<Token> tokenize(const std::string& line) {
     std::vector<Token> tokens;
-    std::size_t i = 0;
-    const std::size_t n = line.size();
-    while (i < n) {
+    for (std::size_t i = 0, n = line.size(); i < n;) {
         if (line[i] == ' ' || line[i] == '\t') {
             ++i;
             continue;
         }
         Token t;
-        if (line[i] == '"') {
-            t.quoted = true;
-            ++i;
-            bool closed = false;
-            while (i < n) {
-                const char c = line[i++];
-                if (c == '"') {
-                    closed = true;
-                    break;
-                }
-                if (c != '\\') {
-                    t.text.push_back(c);
-                    continue;
-                }
-                if (i >= n) break;
-                const char e = line[i++];
-                switch (e) {
-                case '"': t.text.push_back('"'); break;
-                case '\\': t.text.push_back('\\'); break;
-                case 'r': t.text.push_back('\r'); break;
-                case 'n': t.text.push_back('\n'); break;
-                case 't': t.text.push_back('\t'); break;
-                case 'x': {
-                    const int hi = i < n ? hexDigit(line[i]) : -1;
-                    const int lo = i + 1 < n ? hexDigit(line[i + 1]) : -1;
-                    if (hi < 0 || lo < 0) throw std::runtime_error("bad \\x escape");
-                    t.text.push_back(static_cast<char>(hi * 16 + lo));
-                    i += 2;
-                    break;
-                }
-                default: throw std::runtime_error(std::string("unknown escape \\") + e);
-                }
-            }
-            if (!closed) throw std::runtime_error("unterminated string");
-        } else {
+        if (line[i] != '"') {
             while (i < n && line[i] != ' ' && line[i] != '\t') t.text.push_back(line[i++]);
+            tokens.push_back(std::move(t));
+            continue;
         }
+        t.quoted = true;
+        for (++i;; ++i) {
+            if (i >= n) throw std::runtime_error("unterminated string");
+            if (line[i] == '"') break;
+            if (line[i] != '\\') {
+                t.text.push_back(line[i]);
+                continue;
+            }
+            if (++i >= n) throw std::runtime_error("unterminated string");
+            if (const auto at = kEscapes.find(line[i]); at != std::string_view::npos) {
+                t.text.push_back(kEscaped[at]);
+            } else if (unsigned byte = 0; line[i] == 'x' && i + 2 < n &&
+                                          std::from_chars(&line[i + 1], &line[i + 3], byte, 16).ptr == &line[i + 3]) {
+                t.text.push_back(static_cast<char>(byte));
+                i += 2;
+            } else {
+                throw std::runtime_error(line[i] == 'x' ? "bad \\x escape" : std::string("unknown escape \\") + line[i]);
+            }
+        }
+        ++i;
         tokens.push_back(std::move(t));
     }
     return tokens;
+}
+
+std::string quote(const std::string& s) {
+    std::string out = "\"";
+    for (const unsigned char c : s) {
+        if (const auto at = kEscaped.find(static_cast<char>(c)); at != std::string_view::npos) {
+            out += '\\';
+            out += kEscapes[at];
+        } else if (c < 0x20) {
+            out += "\\x";
+            out += "0123456789ABCDEF"[c >> 4];
+            out += "0123456789ABCDEF"[c & 15];
+        } else {
+            out += static_cast<char>(c);
+        }
+    }
+    return out + "\"";
 }
 
 }  // namespace brelk::scenario

@@ -16,4 +16,7 @@ struct Token {
 // \t and \xHH. Throws std::runtime_error on an unterminated string or a bad escape.
 std::vector<Token> tokenize(const std::string& line);
 
+// A string as the scenario language writes it, between quotes, with escapes.
+std::string quote(const std::string& s);
+
 }  // namespace brelk::scenario

@@ -29,39 +29,16 @@ struct LineError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-std::string quote(const std::string& s) {
-    std::string out = "\"";
-    for (unsigned char c : s) {
-        if (c == '"' || c == '\\') { out += '\\'; out += static_cast<char>(c); }
-        else if (c == '\r') out += "\\r";
-        else if (c == '\n') out += "\\n";
-        else if (c == '\t') out += "\\t";
-        else if (c < 0x20) {
-            static const char* hex = "0123456789ABCDEF";
-            out += "\\x";
-            out += hex[c >> 4];
-            out += hex[c & 15];
-        } else out += static_cast<char>(c);
-    }
-    return out + "\"";
-}
-
 std::string show(const Value& v) { return v.isText() ? quote(v.text()) : num::plainText(v.number()); }
 
+// Lines ended by CR LF, a lone CR or a lone LF.
 std::vector<std::string> splitLines(const std::string& bytes) {
     std::vector<std::string> lines;
-    std::string cur;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const char c = bytes[i];
-        if (c == '\r' || c == '\n') {
-            lines.push_back(cur);
-            cur.clear();
-            if (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ++i;
-        } else {
-            cur.push_back(c);
-        }
+    for (std::size_t start = 0; start < bytes.size();) {
+        const std::size_t end = std::min(bytes.find_first_of("\r\n", start), bytes.size());
+        lines.push_back(bytes.substr(start, end - start));
+        start = end + (bytes.compare(end, 2, "\r\n") == 0 ? 2 : 1);
     }
-    if (!cur.empty()) lines.push_back(cur);
     return lines;
 }
 
