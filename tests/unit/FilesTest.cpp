@@ -1,16 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <set>
 #include <tuple>
 #include <string>
 #include <vector>
 
-#include "ErrorOf.h"
 #include "ScriptedProgram.h"
 
 using namespace brelk;
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -43,32 +39,6 @@ TEST_F(TempDir, ValidUtf8IsKeptAndOtherBytesReadAsWindows1252) {
     EXPECT_TRUE(files::isValidUtf8("plain \xE2\x82\xAC \xF0\x9F\x98\x80"));
     for (const char* bad : {"\xC0\xAF", "\xED\xA0\x80", "\xE2\x82", "\xF4\x90\x80\x80"})
         EXPECT_FALSE(files::isValidUtf8(bad)) << bad;
-}
-
-TEST_F(TempDir, AMissingFileIsErrorFiftyThreeAndReadingPastTheEndIsSixtyTwo) {
-    files::LineReader r;
-    using doubles::errorOf;
-    EXPECT_EQ(errorOf([&] { r.open(files::join(dir, "none.txt")); }), err::FileNotFound);
-    r.open(put("one.txt", "x"));
-    r.readLine();
-    EXPECT_EQ(errorOf([&] { r.readLine(); }), err::InputPastEnd);
-}
-
-TEST_F(TempDir, DirListsMatchingFilesOnceAndDeleteRemovesOne) {
-    put("red.set", "");
-    put("Blue.SET", "");
-    put("map.txt", "");
-    fs::create_directory(files::join(dir, "folder.set"));
-    files::DirLister lister;
-    std::set<std::string> found;
-    for (std::string n = lister.first(dir, "*.set"); !n.empty(); n = lister.next()) found.insert(n);
-    EXPECT_EQ(found, (std::set<std::string>{"red.set", "Blue.SET"}));
-    EXPECT_EQ(lister.next(), "");
-    EXPECT_EQ(files::dirByName(files::join(dir, "green.set")), "");
-    // Delete removes a file and fails on a missing one.
-    files::kill(files::join(dir, "red.set"));
-    EXPECT_FALSE(files::exists(files::join(dir, "red.set")));
-    EXPECT_THROW(files::kill(files::join(dir, "red.set")), RuntimeError);
 }
 
 TEST(Wildcards, MatchAnyRunOrOneCharacterIgnoringCase) {

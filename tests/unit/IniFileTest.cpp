@@ -52,7 +52,6 @@ using IniPath = IniDir;
 using IniRead = IniDir;
 using IniWrite = IniDir;
 using IniWriteRefused = IniDir;
-using IniAtomic = IniDir;
 
 // ---- the path of a profile file --------------------------------------------
 
@@ -127,16 +126,6 @@ TEST_F(IniWrite, ChangesOnlyTheOneLineOrAddsOne) {
     }
 }
 
-TEST_F(IniWrite, WrittenValuesReadBackAndRepeatedWritesLeaveOneLine) {
-    const std::string path = pathOf("Brelk.ini");
-    ASSERT_TRUE(ini::writeValue(path, "Options", "MatchDuration", "20:00"));
-    ASSERT_TRUE(ini::writeValue(path, "Colors", "ListColor", "255"));
-    ASSERT_TRUE(ini::writeValue(path, "options", "matchduration", "  25:00 "));
-    ASSERT_TRUE(ini::writeValue(path, "Options", "Blink", "True"));
-    EXPECT_EQ(ini::readValue(path, "OPTIONS", "MatchDuration"), "25:00");
-    EXPECT_EQ(bytesOf(path), "[Options]\r\nMatchDuration=25:00\r\nBlink=True\r\n[Colors]\r\nListColor=255\r\n");
-}
-
 TEST_F(IniWrite, KeepsPermissionsAndLeavesNoTemporaryFile) {
     const std::string path = put("p.ini", "[A]\r\nk=1\r\n");
     fs::permissions(path, static_cast<fs::perms>(0606));
@@ -173,21 +162,6 @@ TEST_F(IniWriteRefused, AMissingFolderEmptyKeyOrLineBreakChangeNothing) {
     EXPECT_FALSE(ini::writeValue(path, "A\r", "k", "2"));
     EXPECT_FALSE(ini::writeValue(path, "A", "k\nx", "2"));
     EXPECT_EQ(bytesOf(path), before);
-}
-
-// ---- atomic replacement ----------------------------------------------------
-
-TEST_F(IniAtomic, AFailedRenameRemovesTheTemporaryFileAndASuccessIsExact) {
-    fs::create_directory(pathOf("target"));
-    put("target/inside", "keep");
-    const auto before = entries();
-    EXPECT_FALSE(ini::replaceFile(pathOf("target"), "new bytes"));
-    EXPECT_EQ(entries(), before);
-    EXPECT_TRUE(fs::is_directory(pathOf("target")));
-    EXPECT_EQ(bytesOf(pathOf("target/inside")), "keep");
-    // Bytes go over exactly, NULs included.
-    ASSERT_TRUE(ini::replaceFile(pathOf("f"), std::string("a\0b", 3)));
-    EXPECT_EQ(bytesOf(pathOf("f")), std::string("a\0b", 3));
 }
 
 }  // namespace
