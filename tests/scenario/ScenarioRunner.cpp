@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
+#include <map>
 #include <optional>
 #include <ostream>
 #include <sstream>
@@ -384,6 +385,81 @@ private:
         check(equal(actual, expected), t[1].text + ": expected " + show(expected) + ", found " + show(actual));
     }
 
+    // Commands whose second word is a target: their least and most words.
+    static inline const std::map<std::string, std::pair<std::size_t, std::size_t>> kOnTarget = {
+        {"down", {2, 3}}, {"up", {2, 3}}, {"click", {2, 3}}, {"dblclick", {2, 2}}, {"move", {2, 2}},
+        {"key", {3, 3}}, {"type", {3, 3}}, {"focus", {2, 2}}, {"blur", {2, 2}}, {"pick", {3, 3}}};
+
+    void onTarget(const std::string& cmd, Target tg, const std::vector<Token>& t) {
+        Form& form = *tg.form;
+        Control& c = *tg.control;
+        if (cmd == "down" || cmd == "up" || cmd == "click") {
+            const int b = buttonWord(t, 2);
+            return act([&] {
+                if (cmd == "down") return form.mouseDown(c, b);
+                if (cmd == "up") return form.mouseUp(c, b);
+                if (c.kind() == ControlKind::CommandButton) {
+                    if (!c.enabled()) return;
+                    form.setFocus(&c);
+                }
+                form.mouseDown(c, b);
+                form.mouseUp(c, b);
+                form.click(c);
+            });
+        }
+        if (cmd == "dblclick") {
+            return act([&] {
+                form.mouseDown(c, button::Left);
+                form.mouseUp(c, button::Left);
+                form.click(c);
+                form.dblClick(c);
+                form.mouseUp(c, button::Left);
+            });
+        }
+        if (cmd == "move") return act([&] { form.mouseMove(c, 0); });
+        if (cmd == "key") {
+            if (!num::isStrictNumber(t[2].text)) throw LineError("bad key code " + t[2].text);
+            const int code = static_cast<int>(num::strictValue(t[2].text));
+            return act([&] {
+                if (form.hasHandler(c.name(), Event::KeyDown)) {
+                    EventArgs a;
+                    a.keyCode = code;
+                    return form.raise(c, Event::KeyDown, a);
+                }
+                // Nothing takes the key: Esc and Enter press the form's Cancel and Default buttons.
+                if (code == key::Escape) form.pressCancel();
+                else if (code == key::Return) form.pressDefault();
+            });
+        }
+        if (cmd == "type") {
+            if (!c.has(Prop::Text)) throw LineError(t[1].text + " takes no text");
+            return act([&] { c.setText(t[2].text); });
+        }
+        if (cmd == "focus") {
+            return act([&] {
+                // The control that had the focus loses it, even when it is the target itself.
+                if (form.focus() != &c) return form.setFocus(&c);
+                form.raise(c, Event::LostFocus);
+                form.raise(c, Event::GotFocus);
+            });
+        }
+        if (cmd == "blur") {
+            return act([&] {
+                form.dropFocus();
+                form.raise(c, Event::LostFocus);
+            });
+        }
+        // pick
+        if (c.kind() != ControlKind::ComboBox) throw LineError(t[1].text + " is no list");
+        if (!num::isStrictNumber(t[2].text)) throw LineError("bad entry " + t[2].text);
+        const double n = num::strictValue(t[2].text);
+        if (n < 0 || n >= static_cast<double>(c.listItems().size())) throw LineError("the list has no entry " + t[2].text);
+        act([&] {
+            c.setNumber(Prop::ListIndex, n);
+            form.raise(c, Event::Click);
+        });
+    }
+
     void command(const std::vector<Token>& t) {
         const std::string& cmd = t[0].text;
         if (t[0].quoted) throw LineError("a line cannot start with a string");
@@ -438,40 +514,6 @@ private:
             });
             return;
         }
-        if (cmd == "down" || cmd == "up" || cmd == "click") {
-            arity(t, 2, 3);
-            Target tg = target(t[1].text);
-            const int b = buttonWord(t, 2);
-            Control& c = *tg.control;
-            return act([&] {
-                if (cmd == "down") return tg.form->mouseDown(c, b);
-                if (cmd == "up") return tg.form->mouseUp(c, b);
-                if (c.kind() == ControlKind::CommandButton) {
-                    if (!c.enabled()) return;
-                    tg.form->setFocus(&c);
-                }
-                tg.form->mouseDown(c, b);
-                tg.form->mouseUp(c, b);
-                tg.form->click(c);
-            });
-        }
-        if (cmd == "dblclick") {
-            arity(t, 2, 2);
-            Target tg = target(t[1].text);
-            Control& c = *tg.control;
-            return act([&] {
-                tg.form->mouseDown(c, button::Left);
-                tg.form->mouseUp(c, button::Left);
-                tg.form->click(c);
-                tg.form->dblClick(c);
-                tg.form->mouseUp(c, button::Left);
-            });
-        }
-        if (cmd == "move") {
-            arity(t, 2, 2);
-            Target tg = target(t[1].text);
-            return act([&] { tg.form->mouseMove(*tg.control, 0); });
-        }
         if (cmd == "menu") {
             arity(t, 2, 2);
             Control* entry = program_.frmMain.find(t[1].text);
@@ -480,63 +522,9 @@ private:
                 throw LineError(t[1].text + " is not available yet");
             return act([&] { program_.frmMain.raise(*entry, Event::Click); });
         }
-        if (cmd == "key") {
-            arity(t, 3, 3);
-            Target tg = target(t[1].text);
-            if (!num::isStrictNumber(t[2].text)) throw LineError("bad key code " + t[2].text);
-            const int code = static_cast<int>(num::strictValue(t[2].text));
-            return act([&] {
-                if (tg.form->hasHandler(tg.control->name(), Event::KeyDown)) {
-                    EventArgs a;
-                    a.keyCode = code;
-                    tg.form->raise(*tg.control, Event::KeyDown, a);
-                    return;
-                }
-                // Nothing takes the key: Esc and Enter press the form's Cancel and Default buttons.
-                if (code == key::Escape) tg.form->pressCancel();
-                else if (code == key::Return) tg.form->pressDefault();
-            });
-        }
-        if (cmd == "type") {
-            arity(t, 3, 3);
-            Target tg = target(t[1].text);
-            if (!tg.control->has(Prop::Text)) throw LineError(t[1].text + " takes no text");
-            const std::string text = t[2].text;
-            return act([&] { tg.control->setText(text); });
-        }
-        if (cmd == "focus") {
-            arity(t, 2, 2);
-            Target tg = target(t[1].text);
-            return act([&] {
-                // The control that had the focus loses it, even when it is TARGET itself.
-                if (tg.form->focus() == tg.control) {
-                    tg.form->raise(*tg.control, Event::LostFocus);
-                    tg.form->raise(*tg.control, Event::GotFocus);
-                    return;
-                }
-                tg.form->setFocus(tg.control);
-            });
-        }
-        if (cmd == "blur") {
-            arity(t, 2, 2);
-            Target tg = target(t[1].text);
-            return act([&] {
-                tg.form->dropFocus();
-                tg.form->raise(*tg.control, Event::LostFocus);
-            });
-        }
-        if (cmd == "pick") {
-            arity(t, 3, 3);
-            Target tg = target(t[1].text);
-            if (tg.control->kind() != ControlKind::ComboBox) throw LineError(t[1].text + " is no list");
-            if (!num::isStrictNumber(t[2].text)) throw LineError("bad entry " + t[2].text);
-            const double n = num::strictValue(t[2].text);
-            if (n < 0 || n >= static_cast<double>(tg.control->listItems().size()))
-                throw LineError("the list has no entry " + t[2].text);
-            return act([&] {
-                tg.control->setNumber(Prop::ListIndex, n);
-                tg.form->raise(*tg.control, Event::Click);
-            });
+        if (const auto words = kOnTarget.find(cmd); words != kOnTarget.end()) {
+            arity(t, words->second.first, words->second.second);
+            return onTarget(cmd, target(t[1].text), t);
         }
         if (cmd == "wait") {
             arity(t, 2, 2);
