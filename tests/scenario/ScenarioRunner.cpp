@@ -149,11 +149,7 @@ private:
         return static_cast<std::int64_t>(v);
     }
 
-    // ---- targets ----
-    struct Target {
-        Form* form;
-        Control* control;
-    };
+    struct Target { Form* form; Control* control; };
 
     Form& formNamed(const std::string& name) {
         if (name == "frmMain") return program_.frmMain;

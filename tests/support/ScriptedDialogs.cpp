@@ -43,7 +43,6 @@ std::optional<OpenFileResult> ScriptedDialogs::openFile(const OpenFileRequest& r
     return OpenFileResult{files::join(dir_, answer->value), answer->value};
 }
 
-
 std::optional<std::int32_t> ScriptedDialogs::showColor(const ColorRequest&) {
     // Without an answer the dialog is cancelled.
     const auto answer = take(colorAnswers);

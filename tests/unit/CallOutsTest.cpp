@@ -1,5 +1,4 @@
-// Spoken call-outs over whole matches, heard through a recorder, and the
-// profile file's [Coach] section over whole runs of the program.
+// Call-outs over whole matches, heard by the test, and the [Coach] section.
 #include <gtest/gtest.h>
 
 #include <utility>

@@ -1,5 +1,4 @@
-// Maps and profile files under faults: a UTF-8 signature, a bad value, a full
-// disk, two copies writing at once, killed writes, files far too big.
+// Maps and profile files under faults: signatures, bad values, full disks, races, kills.
 #include <gtest/gtest.h>
 
 #include <signal.h>

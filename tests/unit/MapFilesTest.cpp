@@ -1,5 +1,4 @@
-// Map loads a scenario file cannot hold: every shipped map, and lists at the
-// limit of the row count.
+// Map loads a scenario cannot hold: every shipped map, the row count's limit.
 #include <gtest/gtest.h>
 
 #include <QDir>

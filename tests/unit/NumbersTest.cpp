@@ -1,6 +1,4 @@
-// Unit tests of the numbers-and-text conversions (platform/Numbers) and of the
-// numbered run-time errors (platform/Errors). Each table holds one row per
-// edge that a plausible fault would get wrong.
+// The numbers-and-text conversions: one row per edge a plausible fault gets wrong.
 #include "ErrorOf.h"
 #include "platform/Numbers.h"
 #include "state/TimeText.h"
