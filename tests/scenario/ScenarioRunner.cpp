@@ -142,11 +142,14 @@ private:
         throw LineError("bad value " + t.text);
     }
 
+    // A whole number from `low` to `high`, or the line cannot be run.
+    static double whole(const std::string& s, const std::string& what, double low, double high) {
+        const double v = num::isStrictNumber(s) ? num::strictValue(s) : -HUGE_VAL;
+        if (v < low || v > high || v != std::floor(v)) throw LineError("bad " + what + " " + s);
+        return v;
+    }
     static std::int64_t millis(const std::string& s) {
-        if (!num::isStrictNumber(s)) throw LineError("bad number of milliseconds " + s);
-        const double v = num::strictValue(s);
-        if (v < 0 || v != std::floor(v)) throw LineError("bad number of milliseconds " + s);
-        return static_cast<std::int64_t>(v);
+        return static_cast<std::int64_t>(whole(s, "number of milliseconds", 0, 1e15));
     }
 
     struct Target { Form* form; Control* control; };
@@ -186,21 +189,15 @@ private:
         return {form, c};
     }
 
+    // The parts of a dotted name; a dot between parentheses divides nothing.
     static std::vector<std::string> dotted(const std::string& s) {
-        std::vector<std::string> parts;
-        std::string cur;
+        std::vector<std::string> parts(1);
         int depth = 0;
-        for (char c : s) {
-            if (c == '(') ++depth;
-            if (c == ')') --depth;
-            if (c == '.' && depth == 0) {
-                parts.push_back(cur);
-                cur.clear();
-            } else {
-                cur.push_back(c);
-            }
+        for (const char c : s) {
+            depth += (c == '(') - (c == ')');
+            if (c == '.' && depth == 0) parts.emplace_back();
+            else parts.back().push_back(c);
         }
-        parts.push_back(cur);
         return parts;
     }
 
@@ -301,10 +298,7 @@ private:
         } else if (kind == "input") dialogs_.inputAnswers.push_back(a);
         else if (kind == "color") {
             // A colour dialog gives a whole colour of 24 bits.
-            if (!a.cancel && !(num::isStrictNumber(a.value) && num::strictValue(a.value) >= 0 &&
-                               num::strictValue(a.value) <= 0xFFFFFF &&
-                               num::strictValue(a.value) == std::floor(num::strictValue(a.value))))
-                throw LineError("bad colour " + a.value);
+            if (!a.cancel) whole(a.value, "colour", 0, 0xFFFFFF);
             dialogs_.colorAnswers.push_back(a);
         } else if (kind == "popup") {
             if (t.size() != 3) throw LineError("a popup answer takes no 'after'");
