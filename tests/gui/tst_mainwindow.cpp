@@ -16,16 +16,6 @@
 
 using namespace brelk;
 
-namespace {
-
-// Runs `check` on the modal widget that the next call opens, from inside its
-// own event loop.
-void whenOpen(std::function<void(QWidget*)> check) {
-    QTimer::singleShot(0, [check = std::move(check)] { check(QApplication::activeModalWidget()); });
-}
-
-}  // namespace
-
 // The main window over a program whose clock the test moves by hand. Input
 // goes in as the window system gives it: QTest events on the window at the
 // place of a widget, so Qt finds the widget that is on top there.
@@ -249,9 +239,9 @@ private slots:
                                 msgbox::Ok},
                             Row{msgbox::OkCancel, "/overwrite ?", QMessageBox::Ok | QMessageBox::Cancel,
                                 QMessageBox::NoIcon, QMessageBox::Cancel, msgbox::Cancel}}) {
-            bool seen = false;
-            whenOpen([&](QWidget* open) {
-                auto* box = qobject_cast<QMessageBox*>(open);
+            bool seen = false;  // checked from inside the box's own event loop
+            QTimer::singleShot(0, [&] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
                 seen = box && box->windowTitle() == r.title && int(box->standardButtons()) == r.buttons &&
                        box->icon() == r.icon && box->text() == "Line 3: <b>Mega</b>\n:35";
                 if (box) box->button(QMessageBox::StandardButton(r.press))->click();

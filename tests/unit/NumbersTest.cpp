@@ -49,6 +49,7 @@ TEST(Numbers, StrictValueTakesOneNumberAndNothingElse) {
         {"negative fraction only", "-.5", -0.5, Ok},
         {"signed exponent", "2.5E-1", 0.25, Ok},
         {"largest double", "1.7976931348623157e308", DBL_MAX, Ok},
+        {"underflow is zero", "1e-400", 0, Ok},
         {"empty", "", 0, err::TypeMismatch},
         {"trailing letters", "12abc", 0, err::TypeMismatch},
         {"sign and point", "+.", 0, err::TypeMismatch},
