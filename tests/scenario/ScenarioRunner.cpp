@@ -1,7 +1,9 @@
 #include "ScenarioRunner.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <deque>
 #include <fstream>
 #include <map>
 #include <optional>
@@ -290,20 +292,16 @@ private:
             if (t[3].text != "after" || t.size() != 5) throw LineError("expected 'after MS'");
             a.afterMs = millis(t[4].text);
         }
-        if (kind == "open") dialogs_.openAnswers.push_back(a);
-        else if (kind == "msgbox") {
-            if (a.value != "ok" && a.value != "cancel" && a.value != "yes" && a.value != "no")
-                throw LineError("bad msgbox answer " + a.value);
-            dialogs_.msgboxAnswers.push_back(a);
-        } else if (kind == "input") dialogs_.inputAnswers.push_back(a);
-        else if (kind == "color") {
-            // A colour dialog gives a whole colour of 24 bits.
-            if (!a.cancel) whole(a.value, "colour", 0, 0xFFFFFF);
-            dialogs_.colorAnswers.push_back(a);
-        } else if (kind == "popup") {
-            if (t.size() != 3) throw LineError("a popup answer takes no 'after'");
-            dialogs_.popupAnswers.push_back(a);
-        } else throw LineError("unknown dialog kind " + kind);
+        const std::map<std::string, std::deque<Answer>*> queues = {
+            {"open", &dialogs_.openAnswers}, {"msgbox", &dialogs_.msgboxAnswers}, {"input", &dialogs_.inputAnswers},
+            {"color", &dialogs_.colorAnswers}, {"popup", &dialogs_.popupAnswers}};
+        const auto queue = queues.find(kind);
+        if (queue == queues.end()) throw LineError("unknown dialog kind " + kind);
+        if (kind == "msgbox" && a.value != "ok" && a.value != "cancel" && a.value != "yes" && a.value != "no")
+            throw LineError("bad msgbox answer " + a.value);
+        if (kind == "color" && !a.cancel) whole(a.value, "colour", 0, 0xFFFFFF);  // a whole colour of 24 bits
+        if (kind == "popup" && t.size() != 3) throw LineError("a popup answer takes no 'after'");
+        queue->second->push_back(a);
     }
 
     void expectation(const std::vector<Token>& t) {
@@ -361,8 +359,7 @@ private:
             if (mode != "has" && mode != "lacks") throw LineError("expected 'has' or 'lacks'");
             const auto bytes = readFile(name);
             if (!bytes) return fail("file " + name + " does not exist");
-            bool found = false;
-            for (const auto& l : splitLines(*bytes)) found = found || l == t[4].text;
+            const bool found = std::ranges::count(splitLines(*bytes), t[4].text) > 0;
             if (mode == "has") return check(found, "file " + name + " has no line " + quote(t[4].text));
             return check(!found, "file " + name + " has the line " + quote(t[4].text));
         }

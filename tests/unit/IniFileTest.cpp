@@ -103,6 +103,7 @@ TEST_F(IniWrite, ChangesOnlyTheOneLineOrAddsOne) {
         {"new key in a section without keys", "[A]\r\n; none\r\n[B]\r\n", "a", "k", "v",
          "[A]\r\nk=v\r\n; none\r\n[B]\r\n"},
         {"new section after a lone CR", "[A]\rx=1\r", "B", "k", "v", "[A]\rx=1\r[B]\r\nk=v\r\n"},
+        {"new section after an unended line", "[A]\r\nx=1", "B", "k", "v", "[A]\r\nx=1\r\n[B]\r\nk=v\r\n"},
         {"key before any section is not the section's", "k=1\r\n", "A", "k", "2", "k=1\r\n[A]\r\nk=2\r\n"},
     };
     for (const auto& c : cases) {

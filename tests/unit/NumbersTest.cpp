@@ -145,7 +145,7 @@ TEST(Numbers, NumbersAreWrittenInTheirShortestFormWithABlankWhenNotNegative) {
         {"binary rounding noise", 0.1 + 0.2, "0.3", " 0.3"},
         {"fifteen significant digits", 2.0 / 3, "0.666666666666667", " 0.666666666666667"},
         {"rounds up into the exponent form", 999999999999999.9, "1E+15", " 1E+15"},
-        {"first small exponent", 0.00001, "1E-05", " 1E-05"},
+        {"first small exponent", 0.000015, "1.5E-05", " 1.5E-05"},
         {"negative tiny", -3.25e-7, "-3.25E-07", "-3.25E-07"},
     };
     for (const Row& r : rows) {
