@@ -49,7 +49,6 @@ class ViewFaultsTest : public QObject {
     QWindow* handle() { return window().windowHandle(); }
     QWidget* widget(Control& c) { return window().widgetOf(c); }
     QPoint at(Control& c, QPoint inside) { return widget(c)->mapTo(&window(), inside); }
-    void click(Control& c, QPoint inside) { QTest::mouseClick(handle(), Qt::LeftButton, {}, at(c, inside)); }
     void addRows() {  // as a map's load makes them
         program().guarded([&] {
             AddCategory(program(), "Armor");
@@ -113,7 +112,7 @@ private slots:
 
     void aStartedRowsBlinkStaysOnTheScreenForAFrame() {
         addRows();
-        click(f().lblMatchTimer(), QPoint(10, 5));
+        QTest::mouseClick(handle(), Qt::LeftButton, {}, at(f().lblMatchTimer(), QPoint(10, 5)));
         QCOMPARE(program().vars.MatchState, std::string("going"));
         // Row 2's wake-up comes late, when both ticks of its blink are due.
         for (const std::int16_t row : {1, 2}) {
@@ -130,7 +129,7 @@ private slots:
             strip->installEventFilter(&spy);
             window().clientArea()->installEventFilter(&spy);
             time.start();
-            click(f().lblFond(row), QPoint(3, 12));
+            QTest::mouseClick(handle(), Qt::LeftButton, {}, at(f().lblFond(row), QPoint(3, 12)));
             if (row == 2) QThread::msleep(30);
             QTRY_VERIFY(!f().timerClick(row).enabled() && shownAt >= 0);
             const QString seen = QString("row %1: %2 paints in %3 ms").arg(row).arg(hiddenPaints).arg(shownAt - hidAt);

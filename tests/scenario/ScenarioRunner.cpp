@@ -8,7 +8,6 @@
 #include <map>
 #include <optional>
 #include <ostream>
-#include <sstream>
 #include <stdexcept>
 #include <vector>
 
@@ -268,18 +267,11 @@ private:
         if (!bytes) return fail("file " + name + " does not exist");
         const auto actual = splitLines(*bytes);
         if (actual == expected) return check(true, "");
-        std::ostringstream msg;
-        msg << "file " << name << " lines differ: expected " << expected.size() << " lines, found "
-            << actual.size();
-        for (std::size_t i = 0; i < std::max(actual.size(), expected.size()); ++i) {
-            const std::string e = i < expected.size() ? quote(expected[i]) : "(none)";
-            const std::string a = i < actual.size() ? quote(actual[i]) : "(none)";
-            if (e != a) {
-                msg << "; first difference at line " << i + 1 << ": expected " << e << ", found " << a;
-                break;
-            }
-        }
-        fail(msg.str());
+        const auto [e, a] = std::ranges::mismatch(expected, actual);
+        const auto at = [](const auto& lines, auto it) { return it == lines.end() ? "(none)" : quote(*it); };
+        fail("file " + name + " lines differ: expected " + std::to_string(expected.size()) + " lines, found " +
+             std::to_string(actual.size()) + "; first difference at line " +
+             std::to_string(e - expected.begin() + 1) + ": expected " + at(expected, e) + ", found " + at(actual, a));
     }
 
     void queueAnswer(const std::vector<Token>& t) {

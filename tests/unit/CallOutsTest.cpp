@@ -100,11 +100,7 @@ TEST_F(CallOutsTest, MatchCallsMarkTheLastMinuteAndTheEndCountingEitherWay) {
 TEST_F(CallOutsTest, TheCoachSectionKeepsOnlyWhatChangedAndReadsAWordItDoesNotKnowAsBuiltIn) {
     const std::string profile = dir + "/Brelk.ini";
     // Settings changed and changed back, the zoom's too, leave the file's bytes as they were.
-    const auto bytes = [&] {
-        std::string b;
-        files::readRegularFile(profile, b);
-        return b;
-    };
+    const auto bytes = [&] { std::string b; return files::readRegularFile(profile, b), b; };
     const std::string asDesigned = bytes();
     zoom::declareZoom(section);
     zoom::storeZoom(section, 200), zoom::storeZoom(section, zoom::kBuiltIn), choose(Sound::Off);

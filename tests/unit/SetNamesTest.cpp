@@ -1,5 +1,4 @@
-// Names "Save as ..." refuses: what cannot name a file in the program's folder
-// on any system a set may travel to.
+// Names "Save as ..." refuses: no file on any system a set may travel to.
 #include <gtest/gtest.h>
 
 #include "options/SetNames.h"
