@@ -35,9 +35,9 @@ TEST_F(TempDir, ValidUtf8IsKeptAndOtherBytesReadAsWindows1252) {
     EXPECT_EQ(lines("Caf\xC3\xA9\r\n"), (Lines{"Caf\xC3\xA9"}));
     EXPECT_EQ(lines("Caf\xE9 \x80\x81\r\n"), (Lines{"Caf\xC3\xA9 \xE2\x82\xAC\xC2\x81"}));
     EXPECT_EQ(lines(std::string("nul\0byte", 8)), (Lines{std::string("nul\0byte", 8)}));
-    // Overlong, surrogate, cut short and past U+10FFFF are no UTF-8.
+    // Overlong, surrogate, cut short, past U+10FFFF and a stray continuation byte are no UTF-8.
     EXPECT_TRUE(files::isValidUtf8("plain \xE2\x82\xAC \xF0\x9F\x98\x80"));
-    for (const char* bad : {"\xC0\xAF", "\xED\xA0\x80", "\xE2\x82", "\xF4\x90\x80\x80"})
+    for (const char* bad : {"\xC0\xAF", "\xED\xA0\x80", "\xE2\x82", "\xF4\x90\x80\x80", "\x80ok"})
         EXPECT_FALSE(files::isValidUtf8(bad)) << bad;
 }
 
