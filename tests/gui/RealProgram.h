@@ -12,9 +12,8 @@
 #include "forms/Brelk.h"
 #include "platform/TimerScheduler.h"
 
-// A program started in a folder of its own, over the real main window and
-// Qt's own dialogs, or dialogs answered by the test; its clock moves only
-// when the test says.
+// A program started in a folder of its own, over the real main window and Qt's
+// dialogs or the test's; its clock moves only when the test says.
 template <class DialogsType = brelk::view::QtDialogs>
 struct RealProgram {
     QTemporaryDir dir;

@@ -9,8 +9,7 @@
 
 using namespace brelk;
 
-// What only the real About window shows, opened from the menu and used with
-// real input; the desktop's opener of https addresses is the test's own.
+// The real About window with real input; the desktop's opener of pages is the test's.
 class AboutWindowTest : public QObject {
     Q_OBJECT
 

@@ -16,9 +16,8 @@
 
 using namespace brelk;
 
-// The main window over a program whose clock the test moves by hand. Input
-// goes in as the window system gives it: QTest events on the window at the
-// place of a widget, so Qt finds the widget that is on top there.
+// The main window, its clock moved by hand; input goes to the window at a
+// widget's place, so Qt finds the widget that is on top there.
 class MainWindowTest : public QObject {
     Q_OBJECT
 
@@ -53,9 +52,8 @@ class MainWindowTest : public QObject {
         QCOMPARE(p_->program->vars.MatchState, std::string("going"));
     }
 
-    // The widget agrees with its control: shown or hidden, place, tooltip,
-    // and for a label the very picture a new widget of the control draws,
-    // all at the window's zoom.
+    // The widget agrees with its control (shown, place, tooltip, and a label's
+    // very picture as a new widget draws it), at the window's zoom.
     void expectShows(Control& c) {
         QWidget* w = widget(c);
         QVERIFY(w);
@@ -98,9 +96,8 @@ private slots:
 
     void aLoadedMapShowsItsRowsAsWidgetsOfTheirOwn() {
         loadMap();
-        // Three categories and nine rows: the list ends at 4950 and the
-        // window 500 lower, so 85 twips show under the last strip. The
-        // next-respawn column makes it 480 wider, 2530 in all.
+        // Nine rows end at 4950, the window 500 lower and 2530 wide with the
+        // next-respawn column.
         QCOMPARE(window().size(), QSize(169, 363));
         for (std::int16_t i : {1, 9})
             for (Control* c : {&f().lblFond(i), &f().lblItem(i), &f().lblTimer(i), &f().ico(i), &f().lblTimerGlobal(i)})

@@ -7,8 +7,7 @@
 
 using namespace brelk;
 
-// What only the real options window shows: its frame, the native colour
-// dialog, the keyboard's way through it, and real input reaching the settings.
+// What only the real options window shows: frame, colour dialog, keys, real input.
 class OptionsWindowTest : public QObject {
     Q_OBJECT
 

@@ -122,6 +122,12 @@ TEST_F(Platform, AnErrorNoProcedureCaughtIsReportedAndTheFormsOwnUnloadIsHeard) 
     EXPECT_FALSE(form.isLoaded());
     EXPECT_EQ(watch.unloads, 1);
     EXPECT_EQ(log.size(), 1u);
+    {  // a form that goes with a timer still running leaves nothing due behind it
+        Form gone("frmGone", clock);
+        gone.addMember(ControlKind::Timer, "tmr", 0).setNumber(Prop::Interval, 100);
+        gone.at("tmr", 0).setEnabled(true);
+    }
+    EXPECT_FALSE(clock.nextDue());
 }
 
 TEST_F(Platform, TimersTickAFullIntervalAfterEnablingInTheOrderTheyWereEnabled) {
