@@ -24,16 +24,17 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "BrelkApp.h"
+#include "assembly/BrelkApp.h"
 #include "callouts/CallOuts.h"
-#include "MainWindow.h"
-#include "RealTimeDriver.h"
+#include "forms/Brelk.h"
 #include "map/Loader.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "platform/TimerScheduler.h"
-#include "forms/Brelk.h"
+#include "seam/Seam.h"
 #include "state/TimeText.h"
+#include "view/services/RealTimeDriver.h"
+#include "view/window/MainWindow.h"
 
 using namespace brelk;
 
@@ -70,6 +71,7 @@ class NoWindows : public WindowSystem {
 public:
     void setTopmost(Form&, bool) override {}
     bool openUrl(const std::string&) override { return true; }
+    int screenWidth() const override { return 19200; }
 };
 
 double cpuSeconds() {
@@ -117,7 +119,7 @@ struct Bench {
     Bench() {
         dialogs.dir = dir.path().toStdString();
         services = std::make_unique<Services>(
-            Services{clock, dialogs, windows, AppInfo{dialogs.dir, "brelk"}, 19200});
+            Services{clock, dialogs, windows, AppInfo{dialogs.dir, "brelk"}});
         program = std::make_unique<Brelk>(*services);
         const view::Guard guarded = [this](const std::function<void()>& a) { return program->guarded(a); };
         driver = std::make_unique<view::RealTimeDriver>(clock, [this](const std::function<void()>& a) {
@@ -147,7 +149,7 @@ struct Bench {
 int startupProbe(int argc, char** argv) {
     QApplication app(argc, argv);
     QTemporaryDir dir;
-    view::BrelkApp brelk(AppInfo{dir.path().toStdString(), "brelk"});
+    assembly::BrelkApp brelk(AppInfo{dir.path().toStdString(), "brelk"});
     brelk.window().onFirstPaint = [] {
         std::printf("painted\n");
         std::fflush(stdout);
@@ -194,9 +196,10 @@ int main(int argc, char** argv) {
     // 30 s before the end of the run.
     const bool callOutsOn = qEnvironmentVariableIntValue("BRELK_BENCH_CALLOUTS") != 0;
     BenchVoice voice;
+    seam::Seam seam(*match.program, match.input);
     std::unique_ptr<callouts::CallOuts> callOuts;
     if (callOutsOn) {
-        callOuts = std::make_unique<callouts::CallOuts>(*match.program, voice);
+        callOuts = std::make_unique<callouts::CallOuts>(seam, voice);
         callOuts->setChoices({callouts::Sound::Voice, 30, true, true, 100});
         match.program->vars.MatchDuration = Minutes(static_cast<std::int16_t>(seconds + 30));
     }

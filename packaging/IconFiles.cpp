@@ -11,7 +11,7 @@
 #include <QPainter>
 #include <QSvgGenerator>
 
-#include "ItemIcons.h"
+#include "view/drawing/ItemIcons.h"
 
 int main(int argc, char** argv) {
     if (argc != 3) {

@@ -2,10 +2,9 @@
 
 #include <QApplication>
 
-#include "BrelkApp.h"
-#include "ItemIcons.h"
-#include "callouts/qt/QtCallOuts.h"
-#include "zoom/qt/QtZoom.h"
+#include "assembly/BrelkApp.h"
+#include "view/drawing/ItemIcons.h"
+#include "view/window/ZoomStyle.h"
 
 int main(int argc, char** argv) {
     const bool platformChosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
@@ -19,12 +18,9 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName("Brelk");
     QGuiApplication::setDesktopFileName("io.github.brelk.Brelk");
     QApplication::setWindowIcon(brelk::view::appIcon());
+    QApplication::setStyle(new brelk::view::ZoomStyle);
 
-    brelk::view::BrelkApp brelk(brelk::view::executableInfo());
-    // Spoken call-outs, beyond the window's design: a submenu of ">" and the [Coach] section.
-    brelk::callouts::qt::QtCallOuts callOuts(brelk);
-    // The zoom, beyond it too: a submenu of ">", keys and wheel, the [Coach] section.
-    brelk::zoom::qt::QtZoom zoom(brelk);
+    brelk::assembly::BrelkApp brelk(brelk::assembly::executableInfo());
     if (!brelk.start()) return 0;
     return QApplication::exec();
 }

@@ -1,110 +1,93 @@
 #include "callouts/CallOuts.h"
 
-#include <cmath>
-#include <optional>
 #include <utility>
 
 #include "callouts/SpokenName.h"
-#include "platform/Errors.h"
-#include "platform/Numbers.h"
-#include "state/ClockReading.h"
-#include "state/Program.h"
-#include "state/TimeText.h"
 
 namespace brelk::callouts {
 
 namespace {
-
-// The status the clock shows once the match length is used up.
-constexpr const char* kMatchEnded = "Match Ended";
 // The clock's last minute starts when this many seconds are left.
 constexpr double kLastMinute = 60;
-
 }  // namespace
 
-CallOuts::CallOuts(Program& p, Voice& voice) : p_(p), voice_(voice) {
-    clockLeft_ = clockLeft();
-    p_.frmMain.addObserver(this);
+CallOuts::CallOuts(seam::Seam& seam, Voice& voice) : seam_(seam), voice_(voice) {
+    newMap(seam.map().get());
+    clockLeft_ = seam.clock().matchSecondsLeft;
+    listening_ = seam.listen([this](const seam::MatchEvent& e) { heard(e); });
 }
-
-CallOuts::~CallOuts() { p_.frmMain.removeObserver(this); }
 
 void CallOuts::setChoices(const Choices& c) {
     choices_ = c;
     if (c.sound == Sound::Off) waiting_.clear();
 }
 
-void CallOuts::propertyChanged(Control& c, Prop prop) {
-    const std::string& name = c.name();
-    if (name == "lblTimer" || name == "timerFlash") {
-        const std::int16_t i = c.index();
-        if (i == 0) return;  // the rows' prototypes
-        if (name == "lblTimer" && prop == Prop::Caption) rowTime(i, c);
-        else if (name == "timerFlash" && prop == Prop::Enabled) rowFlash(i, c);
-        // The flash count is written while the flash is off only when the row is put back to idle.
-        else if (name == "timerFlash" && prop == Prop::Tag && !c.enabled()) rowFlashCount(i, c);
-    } else if (name == "lblMatchTimer" && prop == Prop::Caption) {
-        clockTime();
-    } else if (name == "lblMatchStatus" && prop == Prop::Caption && c.caption() == kMatchEnded) {
+void CallOuts::heard(const seam::MatchEvent& e) {
+    using seam::Happening;
+    switch (e.what) {
+    case Happening::MapLoaded: newMap(e.map.get()); break;
+    case Happening::MatchEnded:
         if (choices_.matchCalls) callMatch("match over");
-    } else if (name == "lblMapName" && c.index() == 0 && prop == Prop::Caption) {
-        ++map_;  // a map is being loaded: what was called for the old one no longer holds
+        break;
+    default: break;
+    }
+    if (e.row > 0) rowEvent(e);
+    switch (e.what) {
+    // Where the clock's reading may have moved.
+    case Happening::ClockTicked:
+    case Happening::MatchTuned:
+    case Happening::ClockSet:
+    case Happening::MatchStarted:
+    case Happening::MapLoaded: clockEvent(e); break;
+    default: break;
     }
 }
 
-void CallOuts::controlUnloading(Control& c) {
-    if (c.name() != "lblTimer") return;
-    rows_.erase(c.index());
-    ++map_;
+void CallOuts::newMap(const seam::MapOutline* map) {
+    ++map_;  // what was called for the old rows no longer holds
+    rows_.clear();
+    if (!map) return;
+    for (const seam::MapRow& r : map->rows) rows_[r.index].name = spokenName(r.title, r.index);
 }
 
-void CallOuts::rowTime(std::int16_t i, Control& label) {
-    const auto left = timeSeconds(label.caption());
-    if (!left) return;
-    Row& r = rows_[i];
+void CallOuts::rowEvent(const seam::MatchEvent& e) {
+    using seam::Happening;
+    const auto it = rows_.find(e.row);
+    if (it == rows_.end()) return;
+    Row& r = it->second;
     const double before = r.left;
-    r.left = *left;
-    // Reached by a tick, or set there by a start whose delay is the lead time itself.
-    if (choices_.lead > 0 && *left == choices_.lead && before != *left) callRow(i, "", 1, true);
-}
-
-void CallOuts::rowFlash(std::int16_t i, Control& flash) {
-    Row& r = rows_[i];
-    const bool on = flash.enabled();
-    if (on && !r.due) {
-        r.due = true;
-        if (choices_.upCall) callRow(i, " up", 2, false);
-    } else if (!on && r.due) {
+    r.left = e.secondsLeft;
+    switch (e.what) {
+    case Happening::RowStarted:
+    case Happening::RowReset:
+        ++r.countdown;
         r.due = false;
-        r.flashDone = num::leadingValue(flash.tag()) <= 0;
+        break;
+    case Happening::RowDue:
+        if (r.due) return;
+        r.due = true;
+        if (choices_.upCall) callRow(e.row, " up", 2, false);
+        return;
+    case Happening::RowFlashEnded: r.due = false; return;
+    case Happening::RowTicked: break;
+    default: return;
     }
+    // Reached by a tick, or set there by a start whose delay is the lead time itself.
+    if (choices_.lead > 0 && r.left == choices_.lead && (e.what != Happening::RowTicked || before != r.left))
+        callRow(e.row, "", 1, true);
 }
 
-void CallOuts::rowFlashCount(std::int16_t i, Control&) {
-    Row& r = rows_[i];
-    if (r.flashDone) r.flashDone = false;
-    else ++r.countdown;  // reset by the coach, or started anew
-}
-
-double CallOuts::clockLeft() {
-    const double reading = clockReading(p_);
-    return num::isTrue(p_.vars.MatchTimerReverse) ? reading : matchDurationSeconds(p_.vars) - reading;
-}
-
-void CallOuts::clockTime() {
-    const double before = clockLeft_;
-    clockLeft_ = clockLeft();
-    if (choices_.matchCalls && p_.frmMain.timerMatch().enabled() && before > kLastMinute &&
-        clockLeft_ <= kLastMinute && clockLeft_ > 0)
+void CallOuts::clockEvent(const seam::MatchEvent& e) {
+    const double before = std::exchange(clockLeft_, e.matchSecondsLeft);
+    if (choices_.matchCalls && e.matchState == "going" && before > kLastMinute && clockLeft_ <= kLastMinute &&
+        clockLeft_ > 0)
         callMatch("one minute");
 }
 
 void CallOuts::callRow(std::int16_t i, const std::string& words, int tones, bool beforeDue) {
     if (choices_.sound == Sound::Off) return;
-    const Control* item = p_.frmMain.find("lblItem", i);
-    const std::string tip = item ? item->get(Prop::ToolTipText).text() : std::string();
     Waiting w;
-    w.call.text = spokenName(titleOfTip(tip), i) + words;
+    w.call.text = rows_[i].name + words;
     w.call.tones = tones;
     w.row = i;
     w.beforeDue = beforeDue;
@@ -145,6 +128,7 @@ void CallOuts::next() {
         w.call.volume = choices_.volume;
         speaking_ = true;
         const unsigned turn = ++turn_;
+        seam_.announce(seam::Happening::CallOutSaid, w.call.text);
         voice_.say(w.call, [this, turn] {
             if (turn != turn_ || !speaking_) return;
             speaking_ = false;

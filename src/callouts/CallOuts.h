@@ -3,32 +3,25 @@
 #include <cstdint>
 #include <deque>
 #include <map>
+#include <string>
 
 #include "callouts/Choices.h"
 #include "callouts/Voice.h"
-#include "platform/Form.h"
-
-namespace brelk {
-class Program;
-}
+#include "seam/Seam.h"
 
 namespace brelk::callouts {
 
-// Spoken call-outs over a running program. They watch the main window as a
-// view does and change nothing in it: a row's time text reaching the lead
-// time calls "<item> in <lead>", its flash starting calls "<item> up", the
-// clock's last minute and the end of the match call "one minute" and "match
-// over". Calls that fall due together wait their turn and are said one after
-// the other; a call before an item said late tells the time then left. A
-// call whose row has been reset or started anew, or whose map has been
-// reloaded, is dropped before its turn, as is a call before an item that is
-// already due.
-class CallOuts : private FormObserver {
+// Spoken call-outs over a running program, from its match events alone: a
+// row's time left reaching the lead time calls "<item> in <lead>", the row
+// becoming due calls "<item> up", the clock entering its last minute while
+// it runs and the end of the match call "one minute" and "match over".
+// Calls that fall due together wait their turn and are said one after the
+// other; a call before an item said late tells the time then left. A call
+// whose row has been reset or started anew, or whose map has been replaced,
+// is dropped before its turn, as is a call before an item already due.
+class CallOuts {
 public:
-    CallOuts(Program& p, Voice& voice);
-    ~CallOuts() override;
-    CallOuts(const CallOuts&) = delete;
-    CallOuts& operator=(const CallOuts&) = delete;
+    CallOuts(seam::Seam& seam, Voice& voice);
 
     const Choices& choices() const { return choices_; }
     // Turning the sound off drops the calls that wait.
@@ -38,12 +31,12 @@ public:
     std::size_t waiting() const { return waiting_.size(); }
 
 private:
-    // What the call-outs know of one row, from what it shows.
+    // What the call-outs know of one row.
     struct Row {
-        double left = 0;          // the time text's seconds
-        bool due = false;         // its flash runs
-        bool flashDone = false;   // its flash ended by itself: the reset that follows is no reset by the coach
-        unsigned countdown = 0;   // changes each time the row is put back to idle
+        std::string name;        // as it is said
+        double left = 0;         // its time left
+        bool due = false;        // its flash runs
+        unsigned countdown = 0;  // changes each time the coach resets or restarts it
     };
     struct Waiting {
         Call call;
@@ -53,29 +46,26 @@ private:
         unsigned map = 0;
     };
 
-    void propertyChanged(Control& c, Prop p) override;
-    void controlUnloading(Control& c) override;
-
-    void rowTime(std::int16_t i, Control& label);
-    void rowFlash(std::int16_t i, Control& flash);
-    void rowFlashCount(std::int16_t i, Control& flash);
-    void clockTime();
-    double clockLeft();
+    void heard(const seam::MatchEvent& e);
+    void newMap(const seam::MapOutline* map);
+    void rowEvent(const seam::MatchEvent& e);
+    void clockEvent(const seam::MatchEvent& e);
 
     void callRow(std::int16_t i, const std::string& words, int tones, bool beforeDue);
     void callMatch(const std::string& words);
     bool stale(const Waiting& w) const;
     void next();
 
-    Program& p_;
+    seam::Seam& seam_;
     Voice& voice_;
     Choices choices_;
     std::map<std::int16_t, Row> rows_;
     std::deque<Waiting> waiting_;
-    unsigned map_ = 0;         // changes when a map is loaded
-    double clockLeft_ = 0;     // seconds left in the match at the clock's last reading
+    unsigned map_ = 0;      // changes when a map is loaded
+    double clockLeft_ = 0;  // seconds left in the match at the clock's last reading
     bool speaking_ = false;
-    unsigned turn_ = 0;        // the call being said, so that a late "done" of an old one is ignored
+    unsigned turn_ = 0;     // the call being said, so that a late "done" of an old one is ignored
+    seam::Seam::Subscription listening_;
 };
 
 }  // namespace brelk::callouts

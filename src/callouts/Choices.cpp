@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "extras/CoachSection.h"
+#include "seam/CoachSection.h"
 
 namespace brelk::callouts {
 
@@ -30,7 +30,7 @@ std::string volumeWord(int volume) { return std::to_string(volume); }
 
 }  // namespace
 
-void declareChoices(extras::CoachSection& section) {
+void declareChoices(seam::CoachSection& section) {
     const Choices builtIn;
     section.declare(kSound, {"Off", "Voice", "Tone"}, soundWord(builtIn.sound));
     section.declare(kLead, words(kLeadTimes, leadWord), leadWord(builtIn.lead));
@@ -39,7 +39,7 @@ void declareChoices(extras::CoachSection& section) {
     section.declare(kVolume, words(kVolumes, volumeWord), volumeWord(builtIn.volume));
 }
 
-Choices readChoices(const extras::CoachSection& section) {
+Choices readChoices(const seam::CoachSection& section) {
     Choices c;
     const std::string& sound = section.value(kSound);
     c.sound = sound == "Voice" ? Sound::Voice : sound == "Tone" ? Sound::Tone : Sound::Off;
@@ -51,7 +51,7 @@ Choices readChoices(const extras::CoachSection& section) {
     return c;
 }
 
-void storeChoices(extras::CoachSection& section, const Choices& c) {
+void storeChoices(seam::CoachSection& section, const Choices& c) {
     section.set(kSound, soundWord(c.sound));
     section.set(kLead, leadWord(c.lead));
     section.set(kUp, flagWord(c.upCall));

@@ -2,7 +2,7 @@
 
 #include "callouts/Voice.h"
 
-namespace brelk::extras {
+namespace brelk::seam {
 class CoachSection;
 }
 
@@ -25,8 +25,8 @@ constexpr int kLeadTimes[] = {0, 5, 10, 15, 20, 30};
 constexpr int kVolumes[] = {25, 50, 75, 100};
 
 // The settings as keys of the profile file's [Coach] section.
-void declareChoices(extras::CoachSection& section);
-Choices readChoices(const extras::CoachSection& section);
-void storeChoices(extras::CoachSection& section, const Choices& choices);
+void declareChoices(seam::CoachSection& section);
+Choices readChoices(const seam::CoachSection& section);
+void storeChoices(seam::CoachSection& section, const Choices& choices);
 
 }  // namespace brelk::callouts

@@ -6,20 +6,18 @@
 #include <QString>
 #include <QStringList>
 
-#include "map/IconCatalogue.h"
-
 namespace brelk::callouts {
 
 namespace {
 
 // The twenty catalogue words as a coach says them.
-constexpr std::array<std::pair<std::string_view, std::string_view>, kIconCount> kSpoken = {{
+constexpr std::pair<std::string_view, std::string_view> kSpoken[] = {
     {"QUAD", "quad"}, {"25H", "twenty five health"}, {"REGEN", "regen"}, {"50H", "fifty health"},
     {"BFG", "B F G"}, {"BS", "battle suit"}, {"FLIGHT", "flight"}, {"GL", "grenade launcher"},
     {"HASTE", "haste"}, {"INVIS", "invisibility"}, {"LG", "lightning gun"}, {"MG", "machine gun"},
     {"RL", "rocket launcher"}, {"MH", "mega"}, {"PG", "plasma gun"}, {"SG", "shotgun"},
     {"RA", "red armor"}, {"RG", "railgun"}, {"YA", "yellow armor"}, {"MEDKIT", "medkit"},
-}};
+};
 
 QString spokenWord(const QString& word) {
     const std::string upper = word.toUpper().toStdString();
@@ -44,11 +42,6 @@ std::string spokenName(std::string_view title, int row) {
     }
     if (said.isEmpty()) return "item " + numberWords(row);
     return said.join(' ').toStdString();
-}
-
-std::string titleOfTip(std::string_view tip) {
-    const auto end = tip.find(" : ");
-    return std::string(tip.substr(0, end));
 }
 
 std::string numberWords(int n) {

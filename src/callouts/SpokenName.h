@@ -12,9 +12,6 @@ namespace brelk::callouts {
 // as the row's place ("item four").
 std::string spokenName(std::string_view title, int row);
 
-// The title a row's tooltip starts with: its text up to " : ".
-std::string titleOfTip(std::string_view tip);
-
 // A whole number in words for 0 to 99 ("thirty"); digits beyond.
 std::string numberWords(int n);
 

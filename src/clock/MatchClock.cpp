@@ -6,6 +6,7 @@
 #include "platform/Events.h"
 #include "platform/Numbers.h"
 #include "state/ClockReading.h"
+#include "state/Happenings.h"
 #include "state/Markers.h"
 #include "state/Program.h"
 #include "state/RowRange.h"
@@ -18,6 +19,7 @@ void StartStopGlobalTimer(Program& p) {
     auto& v = p.vars;
     Control& clock = f.lblMatchTimer();
     Control& status = f.lblMatchStatus();
+    const bool resuming = v.MatchState == match::Paused;
 
     f.timerMatch().setEnabled(!f.timerMatch().enabled());
     if (f.timerMatch().enabled()) {
@@ -37,6 +39,7 @@ void StartStopGlobalTimer(Program& p) {
                 f.lblTimerGlobal(i).setVisible(false);
             }
         }
+        tell(p, resuming ? seam::Happening::MatchResumed : seam::Happening::MatchStarted);
     } else {
         clock.setNumber(Prop::ForeColor, v.PausedMatchTimerColor);
         clock.setFlag(Prop::FontBold, false);
@@ -44,6 +47,7 @@ void StartStopGlobalTimer(Program& p) {
         status.setCaption("Paused");
         v.MatchState = match::Paused;
         for (const std::int16_t i : rowsUpTo(v.ItemCount)) f.timerItem(i).setEnabled(false);
+        tell(p, seam::Happening::MatchPaused);
     }
 }
 
@@ -56,6 +60,7 @@ void timerMatch_Timer(Program& p) {
         showReading(p, std::max(reading - 1, 0.0));
         const double now = clockReading(p);
         if (now <= 60) clock.setNumber(Prop::ForeColor, v.LastMinuteMatchTimerColor);
+        tell(p, seam::Happening::ClockTicked);
         if (now <= 0) EndOfMatch(p);
     } else {
         // The length is at most the largest reading, where counting up stays:
@@ -64,6 +69,7 @@ void timerMatch_Timer(Program& p) {
         showReading(p, reading + 1);
         const double now = clockReading(p);
         if (now > length - 60) clock.setNumber(Prop::ForeColor, v.LastMinuteMatchTimerColor);
+        tell(p, seam::Happening::ClockTicked);
         if (now >= length) EndOfMatch(p);
     }
 }
@@ -77,6 +83,7 @@ void EndOfMatch(Program& p) {
         f.timerClick(i).setTag(mark::EndBlink);
         f.timerClick(i).setEnabled(true);
     }
+    tell(p, seam::Happening::MatchEnded);
 }
 
 void lblMatchTimer_MouseDown(Program& p, int Button) {
@@ -85,7 +92,7 @@ void lblMatchTimer_MouseDown(Program& p, int Button) {
 
 void lblMatchTimer_MouseUp(Program& p, int Button) {
     if (Button != button::Right) return;
-    if (Control* chosen = p.sys.dialogs.popupMenu(p.frmMain, p.frmMain.mnuMatchTimer()))
+    if (Control* chosen = p.dialogs().popupMenu(p.frmMain, p.frmMain.mnuMatchTimer()))
         p.frmMain.raise(*chosen, Event::Click);
 }
 
@@ -102,6 +109,7 @@ void ChangeGlobalTimerColor(Program& p) {
     }
     p.frmMain.lblMatchTimer().setNumber(Prop::ForeColor, colour);
     p.frmMain.lblMatchStatus().setNumber(Prop::ForeColor, colour);
+    tell(p, seam::Happening::LookChanged);
 }
 
 }  // namespace brelk

@@ -1,6 +1,7 @@
 #include "clock/TunePanel.h"
 
 #include "state/ClockReading.h"
+#include "state/Happenings.h"
 #include "state/Program.h"
 
 namespace brelk {
@@ -8,12 +9,17 @@ namespace brelk {
 namespace {
 
 // Adds `step` seconds; the reading stops at the largest value it can hold.
-void tuneUp(Program& p, int step) { showReading(p, clockReading(p) + step); }
+void tuneUp(Program& p, int step) {
+    showReading(p, clockReading(p) + step);
+    tell(p, seam::Happening::MatchTuned);
+}
 
 // Takes `step` seconds off, only when the reading stays above 00:00.
 void tuneDown(Program& p, int step) {
     const double difference = clockReading(p) - step;
-    if (difference > 0) showReading(p, difference);
+    if (difference <= 0) return;
+    showReading(p, difference);
+    tell(p, seam::Happening::MatchTuned);
 }
 
 }  // namespace

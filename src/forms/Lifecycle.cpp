@@ -82,7 +82,7 @@ void mnuExit_Click(Program& p) {
 }
 
 void cmdPopup_Click(Program& p) {
-    if (Control* chosen = p.sys.dialogs.popupMenu(p.frmMain, p.frmMain.mnuCoach()))
+    if (Control* chosen = p.dialogs().popupMenu(p.frmMain, p.frmMain.mnuCoach()))
         p.frmMain.raise(*chosen, Event::Click);
 }
 

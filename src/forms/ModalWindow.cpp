@@ -12,7 +12,7 @@ void showModalWindow(Program& p, std::unique_ptr<Form>& slot, std::unique_ptr<Fo
     slot = std::move(form);
     slot->setErrorReporter([&p](const RuntimeError& e) { p.reportError(e); });
     slot->Load();
-    p.sys.dialogs.showModal(*slot);
+    p.dialogs().showModal(*slot);
     slot.reset();
     AlwaysOnTop(p, p.vars.OnTop);
 }

@@ -1,4 +1,4 @@
-#include "Locations.h"
+#include "install/Locations.h"
 
 #include <QDir>
 #include <QFile>

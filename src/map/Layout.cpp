@@ -2,6 +2,7 @@
 
 #include "map/ItemLine.h"
 #include "platform/Numbers.h"
+#include "state/Happenings.h"
 #include "state/Markers.h"
 #include "state/Program.h"
 #include "state/RowRange.h"
@@ -35,6 +36,7 @@ void AddCategory(Program& p, const std::string& CatName) {
     line.setNumber(Prop::Y2, v.NextRowTop + 200);
 
     v.NextRowTop = num::add32(v.NextRowTop, 300);
+    noteCategory(p, CatName);
 }
 
 void AddItem(Program& p, std::string item) {
@@ -103,6 +105,7 @@ void AddItem(Program& p, std::string item) {
     f.timerItem(n).setTag(line.RespawnText);
     TimerInit(p, n);
     v.NextRowTop = num::add32(v.NextRowTop, 350);
+    noteRow(p, n, line.ItemTitle, line.ItemText, line.IconWord, num::strictValue(line.RespawnText));
 }
 
 void AjusteLargeur(Program& p) {
@@ -124,6 +127,7 @@ void AjusteLargeur(Program& p) {
             f.lblTimerGlobal(i).setVisible(num::isTrue(v.ShowItemsTimers));
         f.lblFond(i).setNumber(Prop::Width, 1700 + growth);
     }
+    tell(p, seam::Happening::LookChanged);
 }
 
 }  // namespace brelk

@@ -11,6 +11,7 @@
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "state/ClockReading.h"
+#include "state/Happenings.h"
 #include "state/Markers.h"
 #include "state/Program.h"
 #include "state/RowRange.h"
@@ -41,7 +42,7 @@ void mnuLoad_Click(Program& p) {
     dialog.set(Prop::InitDir, p.sys.app.mapDir.empty() ? p.sys.app.path : p.sys.app.mapDir);
     dialog.setFlag(Prop::CancelError, true);
 
-    auto chosen = p.sys.dialogs.openFile(
+    auto chosen = p.dialogs().openFile(
         {dialog.get(Prop::DialogTitle).text(), dialog.get(Prop::InitDir).text(), dialog.get(Prop::FileName).text()});
     if (!chosen) return;  // cancelled: nothing changes
     dialog.set(Prop::FileName, chosen->fileName);
@@ -55,6 +56,7 @@ void mnuLoad_Click(Program& p) {
         f.lblMapName(1).setCaption(f.lblMapName(0).caption());
         file.open(chosen->fileName);  // before FormInit: a file that can't be opened leaves the rows
         FormInit(p);
+        beginMapOutline(p);
         while (!file.eof()) {
             line = file.readLine();
             LineNumber = num::add16(LineNumber, 1);
@@ -69,6 +71,7 @@ void mnuLoad_Click(Program& p) {
                      num::numberText(LineNumber) + " :\r\n" + shownLine(line),
                  msgbox::Critical, "WTF ?!");
         file.close();
+        tellMapLoaded(p);
         return;
     }
 
@@ -76,6 +79,7 @@ void mnuLoad_Click(Program& p) {
     f.self().setNumber(Prop::Height, f.self().number(Prop::Height) + p.vars.NextRowTop - 200);
     AjusteLargeur(p);
     ChangeCategoryColor(p);
+    tellMapLoaded(p);
 }
 
 void FormInit(Program& p) {

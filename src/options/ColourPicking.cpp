@@ -64,7 +64,7 @@ void PickColor(Program& p, std::int16_t Index) {
     dlg.setNumber(Prop::Color, f.StartColor);
     dlg.setNumber(Prop::Flags, kStartOnColourFullOpen);
     try {
-        ShowColor(dlg, p.sys.dialogs);
+        ShowColor(dlg, p.dialogs());
     } catch (const RuntimeError& e) {
         if (e.number() == err::DialogCancelled) return;  // the swatch keeps its colour
     }

@@ -7,6 +7,7 @@
 #include "platform/Events.h"
 #include "platform/Numbers.h"
 #include "settings/Settings.h"
+#include "state/Happenings.h"
 #include "state/Markers.h"
 #include "state/Program.h"
 
@@ -50,7 +51,10 @@ void txtMatchDuration_LostFocus(Program& p) {
     if (f.TakenMatchDuration == box.text()) return;
     box.setText(box.text() + ":00");
     p.vars.MatchDuration = num::trim(box.text());
-    if (p.vars.MatchState == match::NotStarted) p.frmMain.lblMatchTimer().setCaption(p.vars.MatchDuration);
+    if (p.vars.MatchState == match::NotStarted) {
+        p.frmMain.lblMatchTimer().setCaption(p.vars.MatchDuration);
+        tell(p, seam::Happening::ClockSet);
+    }
     f.TakenMatchDuration = box.text();
 }
 

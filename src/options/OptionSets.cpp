@@ -79,7 +79,7 @@ void cmdSave_Click(Program& p) {
 
 void cmdSaveAs_Click(Program& p) {
     OptionsForm& f = frmOptions(p);
-    const std::string name = num::trim(p.sys.dialogs.inputBox(
+    const std::string name = num::trim(p.dialogs().inputBox(
         "Enter the name of this option set", "/writeconfig mykewlcfg", selectedEntry(f.lstIniFiles())));
     if (name.empty()) return;
     // A name that cannot be a file of the program's folder writes nothing anywhere.

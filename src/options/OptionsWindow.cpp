@@ -17,7 +17,7 @@ void Form_Load(Program& p) {
     const Control& main = p.frmMain.self();
     window.setNumber(Prop::Top, main.number(Prop::Top));
     // Against the main window's side that faces the middle of the screen.
-    if (p.sys.screenWidth / 2.0 < main.number(Prop::Left))
+    if (p.sys.windows.screenWidth() / 2.0 < main.number(Prop::Left))
         window.setNumber(Prop::Left, main.number(Prop::Left) - window.number(Prop::Width));
     else
         window.setNumber(Prop::Left, main.number(Prop::Left) + main.number(Prop::Width));

@@ -105,25 +105,6 @@ void installDefaults(ControlKind kind, std::array<std::optional<Value>, kPropCou
 
 }  // namespace
 
-std::string_view kindName(ControlKind kind) {
-    switch (kind) {
-    case ControlKind::Form: return "Form";
-    case ControlKind::Label: return "Label";
-    case ControlKind::Image: return "Image";
-    case ControlKind::Line: return "Line";
-    case ControlKind::Timer: return "Timer";
-    case ControlKind::CommandButton: return "CommandButton";
-    case ControlKind::TextBox: return "TextBox";
-    case ControlKind::OptionButton: return "OptionButton";
-    case ControlKind::ComboBox: return "ComboBox";
-    case ControlKind::PictureBox: return "PictureBox";
-    case ControlKind::Frame: return "Frame";
-    case ControlKind::Menu: return "Menu";
-    case ControlKind::CommonDialog: return "CommonDialog";
-    }
-    return "Control";
-}
-
 Control::Control(Form& form, ControlKind kind, std::string name, std::optional<std::int16_t> index,
                  Control* container)
     : form_(form), kind_(kind), name_(std::move(name)), index_(index), container_(container) {
@@ -189,12 +170,6 @@ void Control::RemoveItem(int index) {
     const double selected = get(Prop::ListIndex).number();
     if (selected == index) props_[static_cast<int>(Prop::ListIndex)] = Value(-1);
     else if (selected > index) props_[static_cast<int>(Prop::ListIndex)] = Value(selected - 1);
-    form_.notifyChanged(*this, Prop::ListCount);
-}
-
-void Control::Clear() {
-    list_.clear();
-    props_[static_cast<int>(Prop::ListIndex)] = Value(-1);
     form_.notifyChanged(*this, Prop::ListCount);
 }
 

@@ -18,8 +18,6 @@ enum class ControlKind {
     ComboBox, PictureBox, Frame, Menu, CommonDialog
 };
 
-std::string_view kindName(ControlKind kind);
-
 // One control of a form: a bag of properties of its kind that reads back
 // exactly what was last written. Timers start and stop on their form's
 // scheduler when `Enabled` changes; every change is reported to the form's
@@ -34,7 +32,6 @@ public:
     Form& form() const { return form_; }
     ControlKind kind() const { return kind_; }
     const std::string& name() const { return name_; }
-    bool isArrayMember() const { return index_.has_value(); }
     // The member's index in its control array, 0 for a single control.
     std::int16_t index() const { return index_.value_or(0); }
     // "lblTimer(3)", "cmdPopup".
@@ -84,7 +81,6 @@ public:
     const std::vector<std::string>& listItems() const { return list_; }
     void AddItem(std::string text);
     void RemoveItem(int index);
-    void Clear();
 
 private:
     friend class Form;

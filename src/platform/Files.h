@@ -35,7 +35,6 @@ public:
     // Raises error 53 when the file is missing or is no regular file, 76 when
     // it cannot be opened or read or is too big.
     void open(const std::string& path);
-    bool isOpen() const { return open_; }
     bool eof() const { return pos_ >= bytes_.size(); }
     // Raises error 62 past the end.
     std::string readLine();

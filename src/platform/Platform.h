@@ -31,6 +31,9 @@ public:
     // browser; returns at once. False when the desktop could start nothing
     // to show it.
     virtual bool openUrl(const std::string& address) = 0;
+    // The width of the screen the main window stands on, in twips as the
+    // main window is drawn.
+    virtual int screenWidth() const = 0;
 };
 
 // The platform services one program runs on.
@@ -39,7 +42,6 @@ struct Services {
     Dialogs& dialogs;
     WindowSystem& windows;
     AppInfo app;
-    int screenWidth = 19200;  // twips
 };
 
 }  // namespace brelk

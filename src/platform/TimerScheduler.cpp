@@ -7,16 +7,6 @@
 
 namespace brelk {
 
-TimerScheduler::Entry* TimerScheduler::entryFor(const Control& timer) {
-    for (auto& e : entries_)
-        if (e.timer == &timer) return &e;
-    return nullptr;
-}
-
-bool TimerScheduler::isRunning(const Control& timer) const {
-    return std::any_of(entries_.begin(), entries_.end(), [&](const Entry& e) { return e.timer == &timer; });
-}
-
 void TimerScheduler::start(Control& timer, int intervalMs) {
     stop(timer);
     // A timer without a positive interval never ticks, though it stays enabled.
@@ -63,10 +53,12 @@ void TimerScheduler::advanceTo(std::int64_t t) {
         const std::uint64_t order = e->order;
         ++fired_;
         auto release = [&] {
+            --firing_;
             // The entry may have been removed or re-created by the handler.
             for (auto& x : entries_)
                 if (x.timer == timer && x.order == order) x.busy = false;
         };
+        ++firing_;
         try {
             timer->form().raise(*timer, Event::Timer);
         } catch (...) {

@@ -21,7 +21,6 @@ public:
 
     void start(Control& timer, int intervalMs);
     void stop(Control& timer);
-    bool isRunning(const Control& timer) const;
     void stopAll();
 
     // Fires every tick due up to `t`, in time order, then stands at `t` (or
@@ -38,6 +37,8 @@ public:
 
     // Ticks fired so far, for benchmarks and tests.
     std::uint64_t ticksFired() const { return fired_; }
+    // Whether a tick's handler is running (also behind a modal box it opened).
+    bool firing() const { return firing_ > 0; }
 
 private:
     struct Entry {
@@ -47,7 +48,6 @@ private:
         std::uint64_t order;
         bool busy;
     };
-    Entry* entryFor(const Control& timer);
     Entry* nextEntry(std::int64_t limit);
     void changed();
 
@@ -55,6 +55,7 @@ private:
     std::int64_t now_ = 0;
     std::uint64_t nextOrder_ = 0;
     std::uint64_t fired_ = 0;
+    int firing_ = 0;
     std::function<void()> listener_;
 };
 

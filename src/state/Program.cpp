@@ -41,7 +41,7 @@ void Program::reportError(const RuntimeError& e) {
 }
 
 int Program::MsgBox(const std::string& prompt, int style, const std::string& title) {
-    return sys.dialogs.msgBox(prompt, style, title);
+    return dialogs().msgBox(prompt, style, title);
 }
 
 }  // namespace brelk

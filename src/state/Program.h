@@ -2,10 +2,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 
 #include "platform/Platform.h"
+#include "seam/events/MatchEvent.h"
 #include "state/MainForm.h"
 #include "state/ModVars.h"
 
@@ -34,6 +36,17 @@ public:
     // written since: the first write over one keeps a copy of it.
     std::set<std::string> unreadProfiles;
 
+    // What the features beyond the design hear (see state/Happenings.h), and
+    // the source of the command being carried out, if one is.
+    seam::EventHub events;
+    std::optional<seam::Source> commandSource;
+    // The map as the last load left it, and the outline of a load in progress.
+    std::shared_ptr<const seam::MapOutline> map;
+    struct Loading {
+        std::shared_ptr<seam::MapOutline> outline;
+        std::string category;
+    } loading;
+
     // Opens the main window: its Load event.
     void start();
     // Stops the program at once, with all its forms and timers.
@@ -41,6 +54,10 @@ public:
     bool ended() const { return ended_; }
 
     int MsgBox(const std::string& prompt, int style, const std::string& title);
+    // The dialogs the program's procedures use: the platform's, or while a
+    // command runs, the command's own, which answer instead of showing.
+    Dialogs& dialogs() { return dialogsOverride_ ? *dialogsOverride_ : sys.dialogs; }
+    void overrideDialogs(Dialogs* dialogs) { dialogsOverride_ = dialogs; }
     // Tells the user of a run-time error that no procedure caught.
     void reportError(const RuntimeError& e);
 
@@ -52,6 +69,7 @@ public:
 
 private:
     bool ended_ = false;
+    Dialogs* dialogsOverride_ = nullptr;
     std::function<void()> endListener_;
 };
 

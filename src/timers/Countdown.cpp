@@ -5,6 +5,7 @@
 #include "platform/Dialogs.h"
 #include "platform/Numbers.h"
 #include "state/ClockReading.h"
+#include "state/Happenings.h"
 #include "state/Markers.h"
 #include "state/Program.h"
 #include "state/TimeText.h"
@@ -75,7 +76,11 @@ void DeclencheTimer(Program& p, std::int16_t item) {
     if (!isCompleteRow(p, item)) return;
 
     if (num::leadingValue(f.timerClick(item).tag()) == mark::StartedValue) {
-        if (f.lblTimer(item).caption() != kZeroTime) f.timerItem(item).setEnabled(true);
+        if (f.lblTimer(item).caption() != kZeroTime) {
+            const bool held = !f.timerItem(item).enabled();
+            f.timerItem(item).setEnabled(true);
+            if (held) tell(p, seam::Happening::RowReleased, item);
+        }
         return;
     }
 
@@ -100,6 +105,7 @@ void DeclencheTimer(Program& p, std::int16_t item) {
     Control& name = f.lblItem(item);
     name.setNumber(Prop::ForeColor, v.ActiveItemColor);
     name.setFlag(Prop::FontBold, num::isTrue(v.ActiveItemBold));
+    tell(p, seam::Happening::RowStarted, item);
 
     if (start > 0) {
         f.timerItem(item).setEnabled(true);
@@ -116,7 +122,9 @@ void DeclencheTimer(Program& p, std::int16_t item) {
 void PauseTimer(Program& p, const std::string& Index) {
     const std::int16_t item = num::toInt16(num::strictValue(Index));
     Control& timer = p.frmMain.timerItem(item);
-    if (timer.enabled()) timer.setEnabled(false);
+    if (!timer.enabled()) return;
+    timer.setEnabled(false);
+    tell(p, seam::Happening::RowHeld, item);
 }
 
 void timerItem_Timer(Program& p, std::int16_t Index) {
@@ -124,10 +132,13 @@ void timerItem_Timer(Program& p, std::int16_t Index) {
     Control& timer = f.lblTimer(Index);
     const double left = Secondes(timer.caption()) - 1;
     timer.setCaption(Minutes(num::toInt16(left)));
+    tell(p, seam::Happening::RowTicked, Index);
     const double now = Secondes(timer.caption());
     if (now <= p.vars.LastSeconds) {
+        const bool entering = timer.number(Prop::FontSize) != 9;
         timer.setNumber(Prop::ForeColor, p.vars.LastSecondsTimerColor);
         timer.setNumber(Prop::FontSize, 9);
+        if (entering) tell(p, seam::Happening::RowLastSeconds, Index);
     }
     if (now == 0) {
         f.lblTimerGlobal(Index).setCaption("");
@@ -138,6 +149,7 @@ void timerItem_Timer(Program& p, std::int16_t Index) {
 void TimerReset(Program& p, std::int16_t item) {
     p.frmMain.timerItem(item).setEnabled(false);
     p.frmMain.timerFlash(item).setEnabled(true);
+    tell(p, seam::Happening::RowDue, item);
 }
 
 }  // namespace brelk

@@ -1,6 +1,7 @@
 #include "timers/Flash.h"
 
 #include "platform/Numbers.h"
+#include "state/Happenings.h"
 #include "state/Markers.h"
 #include "state/Program.h"
 #include "timers/Countdown.h"
@@ -17,7 +18,9 @@ void timerFlash_Timer(Program& p, std::int16_t Index) {
         left -= 1;
         flash.setTag(num::plainText(left));
     }
-    if (left <= 0) TimerInit(p, Index);
+    if (left > 0) return;
+    TimerInit(p, Index);
+    tell(p, seam::Happening::RowFlashEnded, Index);
 }
 
 }  // namespace brelk

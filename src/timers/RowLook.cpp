@@ -1,6 +1,7 @@
 #include "timers/RowLook.h"
 
 #include "platform/Numbers.h"
+#include "state/Happenings.h"
 #include "state/Markers.h"
 #include "state/Program.h"
 #include "state/RowRange.h"
@@ -22,6 +23,7 @@ void ChangeTimerColor(Program& p) {
         if (active) f.lblTimerGlobal(i).setVisible(num::isTrue(v.ShowItemsTimers));
         f.lblTimerGlobal(i).setNumber(Prop::ForeColor, active ? v.ActiveTimerColor : v.IdleTimerColor);
     }
+    tell(p, seam::Happening::LookChanged);
 }
 
 }  // namespace brelk

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "extras/CoachSection.h"
+#include "seam/CoachSection.h"
 
 namespace brelk::zoom {
 
@@ -21,14 +21,14 @@ int stepFrom(int percent, int by) {
     return kSteps[static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(here + by, 0, last))];
 }
 
-void declareZoom(extras::CoachSection& section) {
+void declareZoom(seam::CoachSection& section) {
     std::vector<std::string> words;
     for (const int step : kSteps) words.push_back(std::to_string(step));
     section.declare(kKey, std::move(words), std::to_string(kBuiltIn));
 }
 
-int readZoom(const extras::CoachSection& section) { return std::stoi(section.value(kKey)); }
+int readZoom(const seam::CoachSection& section) { return std::stoi(section.value(kKey)); }
 
-void storeZoom(extras::CoachSection& section, int percent) { section.set(kKey, std::to_string(percent)); }
+void storeZoom(seam::CoachSection& section, int percent) { section.set(kKey, std::to_string(percent)); }
 
 }  // namespace brelk::zoom

@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace brelk::extras {
+namespace brelk::seam {
 class CoachSection;
 }
 
@@ -18,8 +18,8 @@ bool isStep(int percent);
 int stepFrom(int percent, int by);
 
 // The [Coach] key "Zoom": one of the steps, 100 unless the coach changed it.
-void declareZoom(extras::CoachSection& section);
-int readZoom(const extras::CoachSection& section);
-void storeZoom(extras::CoachSection& section, int percent);
+void declareZoom(seam::CoachSection& section);
+int readZoom(const seam::CoachSection& section);
+void storeZoom(seam::CoachSection& section, int percent);
 
 }  // namespace brelk::zoom

@@ -7,15 +7,17 @@
 
 #include <type_traits>
 
-#include "MainWindow.h"
-#include "QtDialogs.h"
 #include "forms/Brelk.h"
 #include "platform/TimerScheduler.h"
+#include "seam/Seam.h"
+#include "seam/qt/Host.h"
+#include "view/services/QtDialogs.h"
+#include "view/window/MainWindow.h"
 
 // A program started in a folder of its own, over the real main window and Qt's
 // dialogs or the test's; its clock moves only when the test says.
 template <class DialogsType = brelk::view::QtDialogs>
-struct RealProgram {
+struct RealProgram : brelk::seam::qt::Host {
     QTemporaryDir dir;
     brelk::TimerScheduler clock;
     brelk::view::Guard guard = [this](const std::function<void()>& a) { return program->guarded(a); };
@@ -27,6 +29,7 @@ struct RealProgram {
     brelk::Services services{clock, dialogs, windows, brelk::AppInfo{dir.path().toStdString(), "brelk", 1, 0, 0}};
     std::unique_ptr<brelk::Program> program = std::make_unique<brelk::Brelk>(services);
     std::unique_ptr<brelk::view::FormView> main = brelk::view::createMainWindow(program->frmMain, guard);
+    brelk::seam::Seam seamOfIt{*program, guard};
 
     RealProgram() {
         if constexpr (std::is_same_v<DialogsType, brelk::view::QtDialogs>) dialogs.setParentWindow(main.get());
@@ -34,6 +37,15 @@ struct RealProgram {
         guard([&] { program->start(); });
         main->show();
     }
+
+    // The host of a feature under test: no menu entries, no notices.
+    brelk::seam::Seam& seam() override { return seamOfIt; }
+    void addMenu(std::function<void(QMenu&)>) override {}
+    void notice(const QString&) override {}
+    QWidget& mainWindow() override { return *main; }
+    double zoom() const override { return main->zoom(); }
+    void setZoom(double zoom) override { main->setZoom(zoom); }
+    void atEnd(std::function<void()>) override {}
 
     // Chooses a menu entry that opens a modal window and runs `steps` in it.
     // True when they ran and closed the window; if they did not, it is closed here.

@@ -3,9 +3,9 @@
 
 #include "GuiTestRegistry.h"
 #include "RealProgram.h"
-#include "Twips.h"
 #include "about/AboutForm.h"
 #include "about/OpenWeb.h"
+#include "view/drawing/Twips.h"
 
 using namespace brelk;
 

@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QMessageBox>
+#include <QScreen>
 #include <QWheelEvent>
 
 #include <optional>
@@ -7,11 +8,11 @@
 #include <vector>
 
 #include "GuiTestRegistry.h"
-#include "LabelView.h"
 #include "RealProgram.h"
 #include "ScriptedDialogs.h"
-#include "Twips.h"
 #include "forms/Lifecycle.h"
+#include "view/controls/LabelView.h"
+#include "view/drawing/Twips.h"
 #include "zoom/qt/WindowZoom.h"
 
 using namespace brelk;
@@ -195,7 +196,7 @@ private slots:
         const QPoint corner = window().pos();
         const QSize size = window().size();
         const int text = widget(f().cmdMinPlus())->font().pixelSize();
-        zoom::qt::WindowZoom zoom(window(), p_->services);
+        zoom::qt::WindowZoom zoom(*p_);
 
         // Ctrl and + (or =) twice: 150 %, 10 twips a pixel, from the same corner.
         QTest::keyClick(&window(), Qt::Key_Plus, Qt::ControlModifier);
@@ -206,7 +207,7 @@ private slots:
         QVERIFY(qAbs(window().width() - 1.5 * size.width()) <= 1);
         QVERIFY(qAbs(widget(f().cmdMinPlus())->font().pixelSize() - 1.5 * text) <= 1);
         for (std::int16_t i = 1; i <= 9; ++i) expectShows(f().lblItem(i));
-        QCOMPARE(p_->services.screenWidth, 12800);  // the same screen in twips of this zoom
+        QCOMPARE(p_->windows.screenWidth(), 10 * QGuiApplication::primaryScreen()->geometry().width());  // twips of this zoom
 
         // Ctrl and the wheel turned back a notch over a row: 125 %; Ctrl and 0: 100 %, as before.
         QWheelEvent notch({5, 5}, {}, {}, {0, -120}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);

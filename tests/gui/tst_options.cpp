@@ -3,7 +3,7 @@
 
 #include "GuiTestRegistry.h"
 #include "RealProgram.h"
-#include "Twips.h"
+#include "view/drawing/Twips.h"
 
 using namespace brelk;
 

@@ -3,12 +3,13 @@
 #include <QTest>
 #include <QThread>
 
-#include "BrelkApp.h"
-#include "ControlView.h"
 #include "GuiTestRegistry.h"
-#include "Twips.h"
+#include "assembly/BrelkApp.h"
 #include "forms/Brelk.h"
 #include "map/Layout.h"
+#include "view/controls/ControlView.h"
+#include "view/drawing/Twips.h"
+#include "view/services/RealTimeDriver.h"
 
 using namespace brelk;
 
@@ -41,7 +42,7 @@ class ViewFaultsTest : public QObject {
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> dir_;
-    std::unique_ptr<view::BrelkApp> app_;
+    std::unique_ptr<assembly::BrelkApp> app_;
 
     Program& program() { return app_->program(); }
     MainForm& f() { return program().frmMain; }
@@ -60,7 +61,7 @@ class ViewFaultsTest : public QObject {
 private slots:
     void init() {
         dir_ = std::make_unique<QTemporaryDir>(QCoreApplication::applicationDirPath() + "/viewfaults-XXXXXX");
-        app_ = std::make_unique<view::BrelkApp>(AppInfo{dir_->path().toStdString(), "brelk", 1, 0, 0});
+        app_ = std::make_unique<assembly::BrelkApp>(AppInfo{dir_->path().toStdString(), "brelk", 1, 0, 0});
         QVERIFY(app_->start());
         QVERIFY(QTest::qWaitForWindowExposed(&window()));
     }

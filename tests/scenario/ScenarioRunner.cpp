@@ -453,7 +453,7 @@ private:
         if (cmd == "screen") {
             arity(t, 4, 4);
             if (t[1].text != "width" || !num::isStrictNumber(t[3].text)) throw LineError("expected 'screen width N'");
-            world_.services.screenWidth = static_cast<int>(num::strictValue(t[3].text));
+            world_.windows.screenTwips = static_cast<int>(num::strictValue(t[3].text));
             return;
         }
         if (cmd == "start") {

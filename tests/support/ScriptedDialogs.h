@@ -68,12 +68,14 @@ class ScriptedWindows : public WindowSystem {
 public:
     bool topmost = false;
     bool browser = true;  // whether a browser can be started
+    int screenTwips = 19200;
     std::vector<std::string> openedUrls;
     void setTopmost(Form&, bool top) override { topmost = top; }
     bool openUrl(const std::string& address) override {
         openedUrls.push_back(address);
         return browser;
     }
+    int screenWidth() const override { return screenTwips; }
 };
 
 

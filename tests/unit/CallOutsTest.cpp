@@ -5,8 +5,8 @@
 
 #include "ScriptedProgram.h"
 #include "callouts/CallOuts.h"
-#include "extras/CoachSection.h"
-#include "map/Layout.h"
+#include "seam/CoachSection.h"
+#include "seam/Seam.h"
 #include "settings/IniFile.h"
 #include "zoom/Zoom.h"
 
@@ -20,8 +20,9 @@ namespace {
 // tone, and while `holding`, said until finish().
 struct CallOutsTest : ::testing::Test, doubles::ScriptedProgram, Voice {
     MainForm& f = p.frmMain;
-    extras::CoachSection section{services.app};
-    CallOuts callOuts{p, *this};
+    seam::CoachSection section{services.app};
+    seam::Seam seam{p};
+    CallOuts callOuts{seam, *this};
     Heard heard;
     bool holding = false;
     std::function<void()> saying;
@@ -37,7 +38,11 @@ struct CallOutsTest : ::testing::Test, doubles::ScriptedProgram, Voice {
     void click(Control& c, int b = button::Left) { f.mouseDown(c, b), f.mouseUp(c, b); }
     void wait(int seconds) { clock.advanceBy(seconds * 1000); }
     void startMatchWith(const Heard& lines) {
-        for (const auto& l : lines) AddItem(p, l);
+        std::string map;
+        for (const auto& l : lines) map += l + "\r\n";
+        put("match.txt", map);
+        dialogs.openAnswers.push_back({"match.txt"});
+        f.raise(f.at("mnuLoad"), Event::Click);
         click(f.lblMatchTimer());
         for (std::int16_t i = 1; i <= p.vars.ItemCount; ++i) click(f.lblItem(i));
     }
@@ -112,7 +117,7 @@ TEST_F(CallOutsTest, TheCoachSectionKeepsOnlyWhatChangedAndReadsAWordItDoesNotKn
     ini::writeValue(profile, "Coach", "CallOutLead", "12");
     ini::writeValue(profile, "Coach", "CallOutUp", "false");
     ini::writeValue(profile, "Coach", "Zoom", "175");
-    extras::CoachSection next(services.app);
+    seam::CoachSection next(services.app);
     declareChoices(next), zoom::declareZoom(next);
     EXPECT_EQ(readChoices(next), (Choices{Sound::Tone, Choices{}.lead, false}));
     EXPECT_EQ(zoom::readZoom(next), zoom::kBuiltIn);

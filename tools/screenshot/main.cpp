@@ -7,11 +7,11 @@
 
 #include <cstdio>
 
-#include "MainWindow.h"
 #include "forms/Brelk.h"
 #include "map/Loader.h"
 #include "platform/Dialogs.h"
 #include "platform/TimerScheduler.h"
+#include "view/window/MainWindow.h"
 
 using namespace brelk;
 
@@ -34,6 +34,7 @@ class NoWindows : public WindowSystem {
 public:
     void setTopmost(Form&, bool) override {}
     bool openUrl(const std::string&) override { return true; }
+    int screenWidth() const override { return 19200; }
 };
 
 }  // namespace

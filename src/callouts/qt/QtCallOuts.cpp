@@ -1,21 +1,20 @@
 #include "callouts/qt/QtCallOuts.h"
 
-#include "BrelkApp.h"
 #include "callouts/qt/CallOutsMenu.h"
-#include "state/Program.h"
+#include "seam/Seam.h"
+#include "seam/qt/Host.h"
 
 namespace brelk::callouts::qt {
 
-QtCallOuts::QtCallOuts(view::BrelkApp& app)
-    : section_(app.program().sys.app), callOuts_(app.program(), voice_) {
+QtCallOuts::QtCallOuts(seam::qt::Host& host) : section_(host.seam().app()), callOuts_(host.seam(), voice_) {
     declareChoices(section_);
     callOuts_.setChoices(readChoices(section_));
     if (callOuts_.choices().sound == Sound::Voice) voice_.warmUp();
-    app.dialogs().addMenuExtension("mnuOptions", [this](QMenu& menu) {
+    host.addMenu([this](QMenu& menu) {
         addCallOutsMenu(menu, callOuts_.choices(), voice_.whyNoVoice(), voice_.whyNoTone(),
                         [this](const Choices& c) { change(c); });
     });
-    app.atEnd([this] { section_.writeChanged(); });
+    host.atEnd([this] { section_.writeChanged(); });
 }
 
 void QtCallOuts::change(const Choices& c) {

@@ -2,10 +2,10 @@
 
 #include "callouts/CallOuts.h"
 #include "callouts/qt/QtVoice.h"
-#include "extras/CoachSection.h"
+#include "seam/CoachSection.h"
 
-namespace brelk::view {
-class BrelkApp;
+namespace brelk::seam::qt {
+class Host;
 }
 
 namespace brelk::callouts::qt {
@@ -16,12 +16,12 @@ namespace brelk::callouts::qt {
 // end when the coach changed them. Lives as long as the program's window.
 class QtCallOuts {
 public:
-    explicit QtCallOuts(view::BrelkApp& app);
+    explicit QtCallOuts(seam::qt::Host& host);
 
 private:
     void change(const Choices& c);
 
-    extras::CoachSection section_;
+    seam::CoachSection section_;
     QtVoice voice_;
     CallOuts callOuts_;
 };

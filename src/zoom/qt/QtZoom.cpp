@@ -1,20 +1,16 @@
 #include "zoom/qt/QtZoom.h"
 
-#include <QApplication>
-
-#include "BrelkApp.h"
-#include "state/Program.h"
-#include "zoom/qt/ZoomStyle.h"
+#include "seam/Seam.h"
+#include "seam/qt/Host.h"
 
 namespace brelk::zoom::qt {
 
-QtZoom::QtZoom(view::BrelkApp& app) : section_(app.program().sys.app), zoom_(app.window(), app.program().sys) {
-    QApplication::setStyle(new ZoomStyle);
+QtZoom::QtZoom(seam::qt::Host& host) : section_(host.seam().app()), zoom_(host) {
     declareZoom(section_);
     // Before the program starts: the place it reads for the window is a place at this zoom.
     zoom_.setPercent(readZoom(section_));
-    app.dialogs().addMenuExtension("mnuOptions", [this](QMenu& menu) { zoom_.addMenu(menu); });
-    app.atEnd([this] {
+    host.addMenu([this](QMenu& menu) { zoom_.addMenu(menu); });
+    host.atEnd([this] {
         storeZoom(section_, zoom_.percent());
         section_.writeChanged();
     });

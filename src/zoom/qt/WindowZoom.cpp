@@ -1,7 +1,5 @@
 #include "zoom/qt/WindowZoom.h"
 
-#include <cmath>
-
 #include <QActionGroup>
 #include <QApplication>
 #include <QKeySequence>
@@ -9,13 +7,12 @@
 #include <QShortcut>
 #include <QWheelEvent>
 
-#include "FormView.h"
-#include "platform/Platform.h"
+#include "seam/qt/Host.h"
 
 namespace brelk::zoom::qt {
 
-WindowZoom::WindowZoom(view::FormView& window, Services& sys)
-    : window_(&window), sys_(sys), screenWidth_(sys.screenWidth) {
+WindowZoom::WindowZoom(seam::qt::Host& host) : host_(host), window_(&host.mainWindow()) {
+    QWidget& window = host.mainWindow();
     // Keys of the window: they act while it is the active window.
     const auto keys = [&](QList<QKeySequence> sequences, auto by) {
         auto* shortcut = new QShortcut(&window);
@@ -41,9 +38,7 @@ WindowZoom::~WindowZoom() {
 void WindowZoom::setPercent(int percent) {
     if (!isStep(percent) || percent == percent_ || !window_) return;
     percent_ = percent;
-    const double zoom = percent / 100.0;
-    sys_.screenWidth = static_cast<int>(std::lround(screenWidth_ / zoom));
-    window_->setZoom(zoom);
+    host_.setZoom(percent / 100.0);
 }
 
 void WindowZoom::addMenu(QMenu& menu) {

@@ -9,11 +9,8 @@
 class QMenu;
 class QShortcut;
 
-namespace brelk {
-struct Services;
-}
-namespace brelk::view {
-class FormView;
+namespace brelk::seam::qt {
+class Host;
 }
 
 namespace brelk::zoom::qt {
@@ -21,13 +18,11 @@ namespace brelk::zoom::qt {
 // The size the main window is drawn at, and with it the windows opened over
 // it. The coach sets it from the "Zoom" submenu, or while the window is
 // active with Ctrl and + / - / 0 or Ctrl and the mouse wheel. The window
-// keeps its top-left corner, and the program's screen width in twips follows
-// the zoom, so the windows it places against the main window stand there as
-// they do at 100 %.
+// keeps its top-left corner.
 class WindowZoom : public QObject {
 public:
-    // `window` is drawn at 100 % yet, and `sys.screenWidth` is in twips at 100 %.
-    WindowZoom(view::FormView& window, Services& sys);
+    // The host's window is drawn at 100 % yet.
+    explicit WindowZoom(seam::qt::Host& host);
     ~WindowZoom() override;
 
     int percent() const { return percent_; }
@@ -40,9 +35,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QPointer<view::FormView> window_;
-    Services& sys_;
-    const int screenWidth_;  // twips at 100 %
+    seam::qt::Host& host_;
+    QPointer<QWidget> window_;
     int percent_ = kBuiltIn;
     int wheel_ = 0;  // wheel turned with Ctrl held, in eighths of a degree, not yet a step
     QList<QPointer<QShortcut>> keys_;
