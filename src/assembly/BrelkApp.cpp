@@ -15,6 +15,22 @@
 
 namespace brelk::assembly {
 
+// A refusal of a command that no click gave (a key, a command line action),
+// and a file that could not be written, are told in a notice beside the
+// window: nothing takes the focus from the game.
+class Notices {
+public:
+    explicit Notices(BrelkApp& app)
+        : listening_(app.seam().listen([&app](const seam::MatchEvent& e) {
+              const bool told = (e.what == seam::Happening::CommandRefused && e.source != seam::Source::Click) ||
+                                e.what == seam::Happening::NotSaved;
+              if (told) app.notice(QString::fromStdString(e.words));
+          })) {}
+
+private:
+    seam::Seam::Subscription listening_;
+};
+
 AppInfo executableInfo() {
     const install::Locations where = install::programLocations(QCoreApplication::applicationDirPath());
     return AppInfo{.path = where.settingsDir.toStdString(),
@@ -41,6 +57,7 @@ BrelkApp::BrelkApp(AppInfo app, Options options)
     windows_.setMainWindow(window_.get());
     seam_ = std::make_unique<seam::Seam>(*program_, input_);
     notice_ = std::make_unique<view::Notice>(*window_);
+    notices_ = std::make_unique<Notices>(*this);
 
     callOuts_ = std::make_unique<callouts::qt::QtCallOuts>(*this);
     zoom_ = std::make_unique<zoom::qt::QtZoom>(*this);

@@ -82,6 +82,8 @@ private:
     std::unique_ptr<view::Notice> notice_;
     std::vector<std::function<void()>> endActions_;
     Options options_;
+    // What the program tells that the coach must hear of without a box.
+    std::unique_ptr<class Notices> notices_;
     // The features beyond the design, made last and gone first.
     std::unique_ptr<callouts::qt::QtCallOuts> callOuts_;
     std::unique_ptr<zoom::qt::QtZoom> zoom_;
