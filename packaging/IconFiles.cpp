@@ -11,7 +11,7 @@
 #include <QPainter>
 #include <QSvgGenerator>
 
-#include "view/drawing/ItemIcons.h"
+#include "icons/ItemIcons.h"
 
 int main(int argc, char** argv) {
     if (argc != 3) {
@@ -37,14 +37,14 @@ int main(int argc, char** argv) {
     svg.setDescription("A stopwatch with a red hand");
     QPainter painter;
     if (!painter.begin(&svg)) return 1;
-    brelk::view::paintAppIcon(painter, QRectF(0, 0, 256, 256));
+    brelk::icons::paintAppIcon(painter, QRectF(0, 0, 256, 256));
     painter.end();
 
     for (int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
         QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         painter.begin(&image);
-        brelk::view::paintAppIcon(painter, QRectF(0, 0, size, size));
+        brelk::icons::paintAppIcon(painter, QRectF(0, 0, size, size));
         painter.end();
         const QString name = QString("%1x%1").arg(size);
         if (!image.save(folder(name) + ".png")) return 1;

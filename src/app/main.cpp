@@ -3,7 +3,7 @@
 #include <QApplication>
 
 #include "assembly/BrelkApp.h"
-#include "view/drawing/ItemIcons.h"
+#include "icons/ItemIcons.h"
 #include "view/window/ZoomStyle.h"
 
 int main(int argc, char** argv) {
@@ -17,7 +17,7 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("Brelk");
     QGuiApplication::setDesktopFileName("io.github.brelk.Brelk");
-    QApplication::setWindowIcon(brelk::view::appIcon());
+    QApplication::setWindowIcon(brelk::icons::appIcon());
     QApplication::setStyle(new brelk::view::ZoomStyle);
 
     brelk::assembly::BrelkApp brelk(brelk::assembly::executableInfo());

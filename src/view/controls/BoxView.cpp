@@ -11,7 +11,7 @@
 #include "map/IconCatalogue.h"
 #include "platform/Form.h"
 #include "platform/Platform.h"
-#include "view/drawing/ItemIcons.h"
+#include "icons/ItemIcons.h"
 #include "view/drawing/Twips.h"
 
 namespace brelk::view {
@@ -71,10 +71,10 @@ void BoxView::paintEvent(QPaintEvent*) {
         if (const auto icon = iconIndex(picture)) {
             painter.save();
             painter.setRenderHint(QPainter::Antialiasing);
-            paintItemIcon(painter, QRectF(area_->geometry()), *icon);
+            icons::paintItemIcon(painter, QRectF(area_->geometry()), *icon);
             painter.restore();
         } else if (picture == kProgramIconPicture) {
-            appIcon().paint(&painter, area_->geometry());
+            icons::appIcon().paint(&painter, area_->geometry());
         }
         if (border() == 0) return;
         QStyleOptionFrame option;

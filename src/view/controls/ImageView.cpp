@@ -6,7 +6,7 @@
 #include <QPixmapCache>
 
 #include "map/IconCatalogue.h"
-#include "view/drawing/ItemIcons.h"
+#include "icons/ItemIcons.h"
 
 namespace brelk::view {
 
@@ -23,7 +23,7 @@ QPixmap picture(int index, QSize size, qreal dpr) {
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintItemIcon(painter, QRectF(QPointF(0, 0), QSizeF(size)), index);
+    icons::paintItemIcon(painter, QRectF(QPointF(0, 0), QSizeF(size)), index);
     painter.end();
     QPixmapCache::insert(key, pixmap);
     return pixmap;

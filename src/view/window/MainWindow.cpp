@@ -1,6 +1,6 @@
 #include "view/window/MainWindow.h"
 
-#include "view/drawing/ItemIcons.h"
+#include "icons/ItemIcons.h"
 
 namespace brelk::view {
 
@@ -10,7 +10,7 @@ std::unique_ptr<FormView> createMainWindow(Form& frmMain, Guard guard) {
     // program is in front (macOS hides tool windows then).
     window->setWindowFlags(window->windowFlags() | Qt::Tool | Qt::FramelessWindowHint);
     window->setAttribute(Qt::WA_MacAlwaysShowToolWindow);
-    window->setWindowIcon(appIcon());
+    window->setWindowIcon(icons::appIcon());
     return window;
 }
 

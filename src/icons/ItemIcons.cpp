@@ -1,5 +1,6 @@
-#include "view/drawing/ItemIcons.h"
+#include "icons/ItemIcons.h"
 
+#include <QBuffer>
 #include <QColor>
 #include <QIcon>
 #include <QIconEngine>
@@ -8,12 +9,15 @@
 #include <QPainterPathStroker>
 #include <QPixmap>
 #include <QPolygonF>
+#include <QSvgGenerator>
 #include <QTransform>
 
 #include <array>
 #include <initializer_list>
 
-namespace brelk::view {
+#include "map/IconCatalogue.h"
+
+namespace brelk::icons {
 
 namespace {
 
@@ -356,6 +360,24 @@ QPixmap itemIconPixmap(int index, int logicalSize, qreal dpr) {
     return pixmap;
 }
 
+void paintItemIcon(QPainter& painter, const QRectF& target, std::string_view word) {
+    if (const auto index = iconIndex(word)) paintItemIcon(painter, target, *index);
+}
+
+QByteArray itemIconSvg(std::string_view word, int size) {
+    const auto index = iconIndex(word);
+    if (!index) return {};
+    QBuffer out;
+    QSvgGenerator svg;
+    svg.setOutputDevice(&out);
+    svg.setSize(QSize(size, size));
+    svg.setViewBox(QRect(0, 0, size, size));
+    QPainter painter(&svg);
+    paintItemIcon(painter, QRectF(0, 0, size, size), *index);
+    painter.end();
+    return out.data();
+}
+
 void paintAppIcon(QPainter& painter, const QRectF& target) {
     painter.save();
     scaleToGrid(painter, target);
@@ -392,4 +414,4 @@ public:
 
 QIcon appIcon() { return QIcon(new EmblemEngine); }
 
-}  // namespace brelk::view
+}  // namespace brelk::icons

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string_view>
+
+#include <QByteArray>
 #include <QtGlobal>
 
 class QPainter;
@@ -7,7 +10,7 @@ class QRectF;
 class QPixmap;
 class QIcon;
 
-namespace brelk::view {
+namespace brelk::icons {
 
 // The pictures of the icon words, in catalogue order (QUAD, 25H, ... MEDKIT).
 constexpr int kItemIconCount = 20;
@@ -20,6 +23,13 @@ void paintItemIcon(QPainter& painter, const QRectF& target, int index);
 // device pixel ratio so it stays crisp on high-density screens.
 QPixmap itemIconPixmap(int index, int logicalSize, qreal dpr);
 
+// The picture of a catalogue word ("RA"); a word outside the catalogue paints nothing.
+void paintItemIcon(QPainter& painter, const QRectF& target, std::string_view word);
+
+// The picture as an SVG document of `size` by `size` points, for a web page;
+// empty for a word outside the catalogue.
+QByteArray itemIconSvg(std::string_view word, int size = 32);
+
 // The program's emblem, a stopwatch with a red hand, painted into `target`;
 // the desktop's icon files are drawn by it too.
 void paintAppIcon(QPainter& painter, const QRectF& target);
@@ -27,4 +37,4 @@ void paintAppIcon(QPainter& painter, const QRectF& target);
 // The program's window icon: the emblem in several sizes.
 QIcon appIcon();
 
-}  // namespace brelk::view
+}  // namespace brelk::icons
