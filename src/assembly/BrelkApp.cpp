@@ -46,7 +46,7 @@ BrelkApp::BrelkApp(AppInfo app, Options options)
     // The end is at once: no window is asked whether it may close.
     program_->setEndListener([this] {
         for (const auto& action : endActions_) action();
-        QCoreApplication::exit(0);
+        if (options_.exitAtEnd) QCoreApplication::exit(0);
     });
     driver_ = std::make_unique<view::RealTimeDriver>(clock_, program);
     input_ = driver_->inputGuard(program);

@@ -38,6 +38,9 @@ AppInfo executableInfo();
 struct Options {
     // The clock follows real time; without, it moves only when the test says.
     bool realTime = true;
+    // The program's end ends the application's event loop, and with it the
+    // process; a test that goes on after the end says no.
+    bool exitAtEnd = true;
 };
 
 // The whole program as it runs: the platform services on Qt, the designed
